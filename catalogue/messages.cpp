@@ -1,0 +1,121 @@
+// Convertmsg: the texts of the conversion's messages, by key.
+#include <cstring>
+
+namespace {
+
+struct Message {
+  const char* key;
+  const char* text;
+};
+
+constexpr Message kMessages[] = {
+    {"IDS_S2KV8_FILE_FILTER", "SAP2000 V8 text files (*.s2k)|*.s2k|All files (*)|*||"},
+    {"IDS_S2KV8_Export_must_be_executed",
+     "The model must have been exported from SAP2000 V8 as a text file (File > Export > SAP2000 .s2k). "
+     "Only the tables of that export are converted."},
+    {"IDS_S2KV8_Not_Convert",
+     "This file is not a SAP2000 V8 text export, or it is of an older layout. Nothing was converted."},
+    {"IDS_S2KV8_DATA_Not_Convert",
+     "A line at the top of the file is not part of any table and was ignored. Check the start of the file."},
+    {"IDS_S2KV8_AREA_AtMesh_Not_Convert",
+     "Automatic area meshing is not converted. Mesh the areas in the model before export if needed."},
+    {"IDS_S2KV8_AREA_PrPrsr_Not_Convert", "Pore pressure loads on areas are not converted. Check those load cases."},
+    {"IDS_S2KV8_AREA_Local_Not_Convert",
+     "Area local axes are not converted. Areas keep their default local axes; check loads and results in local axes."},
+    {"IDS_S2KV8_AREA_Stif_Not_Convert",
+     "Area stiffness modifiers are not converted. The areas use their full stiffness."},
+    {"IDS_S2KV8_SEIS_Data_Not_Convert",
+     "Automatic seismic loads of this code are not converted. Define those loads again in the target model."},
+    {"IDS_S2KV8_WIND_Data_Not_Convert",
+     "Automatic wind loads of this code are not converted. Define those loads again in the target model."},
+    {"IDS_S2KV8_SOLD_PrPrsr_Not_Convert", "Pore pressure loads on solids are not converted. Check those load cases."},
+    {"IDS_S2KV8_SOLD_SurfP_Not_Convert",
+     "Surface pressure loads on solids are not converted. Check those load cases."},
+    {"IDS_S2KV8_SOLD_Local_Not_Convert",
+     "Solid local axes are not converted. Solids keep their default local axes."},
+    {"IDS_S2KV8_SOLD_Spr_Not_Convert", "Springs on solid faces are not converted. Check the supports of solids."},
+    {"IDS_S2KV8_NODE_NOT_Cylindrical",
+     "Only Cartesian coordinate systems are converted. The conversion was stopped."},
+    {"IDS_S2KV8_NODE_Renumbering",
+     "Joint names are not all numbers, so the nodes were numbered anew. Each node line names its joint."},
+    {"IDS_S2KV8_NODE_Not_Assgn",
+     "An element refers to a joint that is not in the model; node 0 was written for it. Check the connectivity."},
+    {"IDS_S2KV8_ELEM_Renumbering",
+     "Element names are not all numbers, so the elements were numbered anew. Each element line names its object."},
+    {"IDS_S2KV8_ELEM_Length_Zero",
+     "An element has two ends at the same place and was not converted. Check for zero-length frames."},
+    {"IDS_S2KV8_FRAM_LclAx_Not_Convert",
+     "Some frame local axes could not be converted exactly. Check the orientation of those frames."},
+    {"IDS_S2KV8_PLAT_LclAx_Not_Convert",
+     "Area local axes are not converted. Check the orientation of the plate elements."},
+    {"IDS_S2KV8_SOLD_LclAx_Not_Convert",
+     "Solid local axes are not converted. Check the orientation of the solid elements."},
+    {"IDS_S2KV8_MATL_ANIS_Not_Convert",
+     "Anisotropic materials are not converted as such. Check the properties of those materials."},
+    {"IDS_S2KV8_SECT_Not_Trans",
+     "Some frame sections are of a shape that is not converted and were left out. Define them again."},
+    {"IDS_S2KV8_SECT_SSEC_Not_Define",
+     "A nonprismatic section names a start section that is missing or of another shape. Check it."},
+    {"IDS_S2KV8_SECT_ESEC_Not_Define",
+     "A nonprismatic section names an end section that is missing or of another shape. Check it."},
+    {"IDS_S2KV8_SECT_TAPP_Not_Convert",
+     "Some nonprismatic sections could not be converted as tapered sections. Check them."},
+    {"IDS_S2KV8_AREA_Prop_Not_Convert",
+     "Some area section properties are not converted. Check the thickness of those areas."},
+    {"IDS_S2KV8_AREA_Thik_Mod_Not_Confert",
+     "Area thickness modifiers are not converted. Check the thickness of those areas."},
+    {"IDS_S2KV8_NODE_NSPR_Not_Convert",
+     "Some joint springs could not be converted. Check the springs of joints with local axes."},
+    {"IDS_S2KV8_FRAME_2_NSPR", "Line springs on frames were converted to springs at their joints. Check them."},
+    {"IDS_S2KV8_PLATE_2_NSPR", "Area springs were converted to springs at their joints. Check them."},
+    {"IDS_S2KV8_PLATE_NSPR_Not_Convert", "Some area springs could not be converted. Check the area supports."},
+    {"IDS_S2KV8_STLC_Not_Convert", "Some static load cases are not converted. Check the list of load cases."},
+    {"IDS_S2KV8_PLATE_SurfP_Not_Convert",
+     "Some surface pressure loads on areas are not converted. Check those load cases."},
+    {"IDS_S2KV8_BEAM_End_Release", "Partial fixity of frame end releases is not converted. The ends are released fully."},
+    {"IDS_S2KV8_BEAM_End_Off_Rls",
+     "Frames with both end offsets and end releases were converted; check their releases."},
+    {"IDS_S2KV8_OFFSET_REPLACE_GLOBAL",
+     "Frame %s has both a rigid end zone and joint offsets; the joint offsets were kept."},
+    {"IDS_S2KV8_OFFSET_LOCAL_DIR",
+     "Some end offsets are given in local directions and are not converted exactly. Check them."},
+    {"IDS_S2KV8_NOCONVERT_AREA_GRAV", "Gravity loads on areas are not converted. Check those load cases."},
+    {"IDS_S2KV8_FRAM_GRAV_Not_Convert", "Some gravity loads are not converted. Check the self weight of load cases."},
+    {"IDS_S2KV8_RESP_BOCA96_Not_Convert", "BOCA96 response spectrum functions are not converted. Define them again."},
+    {"IDS_S2KV8_RESP_FILE_Not_Convert",
+     "Response spectrum functions from a file are not converted. Define them again."},
+    {"IDS_S2KV8_RESP_NHERP97_Not_Convert",
+     "NEHRP97 response spectrum functions are not converted. Define them again."},
+    {"IDS_S2KV8_RESP_NZS4203_Not_Convert",
+     "NZS4203 response spectrum functions are not converted. Define them again."},
+    {"IDS_S2KV8_RESP_SPLC_Not_Convert", "Some response spectrum load cases are not converted. Check them."},
+    {"IDS_S2KV8_BUCK_LdType_Not_Convert", "Some buckling load types are not converted. Check the buckling case."},
+    {"IDS_S2KV8_THLC_Data_Not_Convert", "Some time history case data are not converted. Check the time history cases."},
+    {"IDS_S2KV8_MDHT_IntpDamp_Not_Convert",
+     "Interpolated modal damping of time history cases is not converted. Check the damping."},
+    {"IDS_S2KV8_TMHT_NewMark_Only_Convert",
+     "Only the Newmark method of direct integration is converted. Check the time history cases."},
+    {"IDS_S2KV8_TMHT_Func_Not_Convert", "Some time history functions are not converted. Define them again."},
+    {"IDS_S2KV8_NOCONVERT_VEHICLE", "Vehicle %s is not converted. Define it again."},
+    {"IDS_S2KV8_MAXLOADED_VEHICLE_CLASS",
+     "Only one vehicle class per moving load case is converted. Check the moving load cases."},
+    {"IDS_S2KV8_LINK_Sinlge_Joint", "Links with a single joint are not converted. Check the supports."},
+    {"IDS_S2KV8_LINK_Mult_Lin_Not_Convert",
+     "Multilinear elastic link properties are not converted. Check the nonlinear links."},
+    {"IDS_S2KV8_LINK_Mult_Kine_Not_Convert",
+     "Multilinear kinematic link properties are not converted. Check the nonlinear links."},
+    {"IDS_S2KV8_REST_Local_Not_Convert",
+     "Joint constraints in local coordinate systems are not converted exactly. Check the rigid links."},
+    {"IDS_S2KV8_REST_AutoAX_Not_Convert",
+     "Joint constraints with an automatic axis are converted about the Z axis. Check the rigid links."},
+};
+
+}  // namespace
+
+/// The text of \p key; a key the catalogue does not know reads as itself.
+extern "C" __attribute__((visibility("default"))) const char* LoadStr(const char* key) {
+  if (!key) return "";
+  for (const Message& message : kMessages)
+    if (std::strcmp(message.key, key) == 0) return message.text;
+  return key;
+}

@@ -1,0 +1,25 @@
+// Rows, records and tables of materials, sections, elements, offsets and springs.
+#pragma once
+
+#include <string>
+
+#include "s2k/keyed_table.h"
+
+struct S2kElementTables {
+  void Reset() {}
+};
+
+/// Run flags of the element conversion: set in conversion, tested by writers.
+struct ElementRunFlags {};
+
+/// The element map: old to new element numbers, filled by *ELEMENT.
+struct TvtElementMapEntry {
+  int iEL = 0;
+  int number = 0;
+  std::string name;
+  std::string kind;
+};
+
+struct TvtElementTables {
+  void Reset() {}
+};

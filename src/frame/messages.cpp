@@ -1,0 +1,73 @@
+// Binding of the message catalogue, found beside this library.
+#include "frame/messages.h"
+
+#include <dlfcn.h>
+#include <unistd.h>
+
+#include <climits>
+#include <string>
+
+#include "quillmesh/quillmesh.hpp"
+
+namespace {
+
+using LoadStrFunction = const char* (*)(const char*);
+
+const char* Fallback(const char*) { return "Error : DLL is not loaded. check message dll!"; }
+
+LoadStrFunction loadStr = Fallback;
+void* messageLibrary = nullptr;
+
+// The folder of the file that holds this code: the shared library, or the
+// program it was linked into.
+std::string OwnFolder() {
+  Dl_info info{};
+  std::string path;
+  if (dladdr(reinterpret_cast<void*>(&BindMessageLibrary), &info) && info.dli_fname)
+    path = info.dli_fname;
+  if (path.find('/') == std::string::npos) {
+    char self[PATH_MAX];
+    ssize_t n = ::readlink("/proc/self/exe", self, sizeof self - 1);
+    if (n <= 0) return ".";
+    path.assign(self, static_cast<std::size_t>(n));
+  }
+  return path.substr(0, path.rfind('/'));
+}
+
+// Bound on load, before anything else runs; released on unload.
+struct LibraryLifetime {
+  LibraryLifetime() { BindMessageLibrary(); }
+  ~LibraryLifetime() { ReleaseMessageLibrary(); }
+} lifetime;
+
+}  // namespace
+
+const char* LoadStrEntry(const char* key) { return loadStr(key); }
+
+int BindMessageLibrary() {
+  if (messageLibrary) return 1;
+  std::string name = OwnFolder() + "/lib" + "Convert" + "msg" + ".so";
+  messageLibrary = dlopen(name.c_str(), RTLD_NOW | RTLD_LOCAL);
+  if (!messageLibrary) return 0;
+  if (auto entry = reinterpret_cast<LoadStrFunction>(dlsym(messageLibrary, "LoadStr"))) {
+    loadStr = entry;
+    return 1;
+  }
+  loadStr = Fallback;
+  dlclose(messageLibrary);
+  messageLibrary = nullptr;
+  return 0;
+}
+
+int ReleaseMessageLibrary() {
+  if (messageLibrary) dlclose(messageLibrary);
+  messageLibrary = nullptr;
+  loadStr = Fallback;
+  return 1;
+}
+
+namespace quillmesh {
+const char* LoadMessage(const char* key) { return LoadStrEntry(key); }
+bool BindMessageLibrary() { return ::BindMessageLibrary() != 0; }
+void ReleaseMessageLibrary() { ::ReleaseMessageLibrary(); }
+}  // namespace quillmesh

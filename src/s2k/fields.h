@@ -1,0 +1,87 @@
+// A table's keys described once: key, field, kind. One reader serves all.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "s2k/keyed_table.h"
+#include "s2k/keys.h"
+#include "s2k/numbers.h"
+
+enum class S2kFieldKind { Text, Number, Integer, Flag };
+
+template <class Row>
+struct S2kField {
+  std::string_view Key;
+  S2kFieldKind Kind;
+  std::string Row::*Text = nullptr;
+  double Row::*Number = nullptr;
+  int Row::*Integer = nullptr;  // Integer (a number cut to 32 bits) and Flag ("Yes")
+};
+
+template <class Row>
+constexpr S2kField<Row> TextKey(std::string_view key, std::string Row::*field) {
+  return {key, S2kFieldKind::Text, field, nullptr, nullptr};
+}
+template <class Row>
+constexpr S2kField<Row> NumberKey(std::string_view key, double Row::*field) {
+  return {key, S2kFieldKind::Number, nullptr, field, nullptr};
+}
+template <class Row>
+constexpr S2kField<Row> IntegerKey(std::string_view key, int Row::*field) {
+  return {key, S2kFieldKind::Integer, nullptr, nullptr, field};
+}
+template <class Row>
+constexpr S2kField<Row> FlagKey(std::string_view key, int Row::*field) {
+  return {key, S2kFieldKind::Flag, nullptr, nullptr, field};
+}
+
+/// Reads one key into its field: item 0 of the list when the key is there
+/// and the list isn't empty; otherwise the field keeps what it had.
+template <class Row>
+void ReadField(const std::string& rowText, const S2kField<Row>& field, Row& row) {
+  if (field.Kind == S2kFieldKind::Number || field.Kind == S2kFieldKind::Integer) {
+    std::vector<double> list;
+    if (ReadNumberList(rowText, field.Key, list) && !list.empty()) {
+      if (field.Kind == S2kFieldKind::Number)
+        row.*field.Number = list[0];
+      else
+        row.*field.Integer = TruncateToInt(list[0]);
+    }
+    return;
+  }
+  std::vector<std::string> list;
+  if (ReadStringList(rowText, field.Key, list) && !list.empty()) {
+    if (field.Kind == S2kFieldKind::Text)
+      row.*field.Text = list[0];
+    else
+      row.*field.Integer = IsYes(list[0]);
+  }
+}
+
+/// Reads every key of \p fields, in their order, into \p row.
+template <class Row, std::size_t N>
+void ReadFields(const std::string& rowText, const S2kField<Row> (&fields)[N], Row& row) {
+  for (const S2kField<Row>& field : fields) ReadField(rowText, field, row);
+}
+
+/// The row parser of every plain table: row i (from 0) goes under key i + 1,
+/// starting from the row's defaults. \p special runs after the keys and may
+/// stop the parse by returning false. \returns 1, or 0 when stopped.
+template <class Row, std::size_t N, class Special>
+int ParseRows(const std::vector<std::string>& rows, const S2kField<Row> (&fields)[N],
+              CKeyedTable<Row>& table, Special&& special) {
+  for (std::size_t i = 0; i < rows.size(); ++i) {
+    Row row{};
+    ReadFields(rows[i], fields, row);
+    if (!special(rows[i], row)) return 0;
+    if (!table.SetAt(static_cast<int>(i + 1), row)) return 0;
+  }
+  return 1;
+}
+
+template <class Row, std::size_t N>
+int ParseRows(const std::vector<std::string>& rows, const S2kField<Row> (&fields)[N], CKeyedTable<Row>& table) {
+  return ParseRows(rows, fields, table, [](const std::string&, Row&) { return true; });
+}

@@ -1,0 +1,32 @@
+// The s2k file read as text: reads of at most 499 characters that keep the
+// newline, with CR LF taken as one newline.
+#pragma once
+
+#include <cstdio>
+#include <string>
+
+class S2kInputFile {
+ public:
+  S2kInputFile() = default;
+  ~S2kInputFile() { Close(); }
+  S2kInputFile(const S2kInputFile&) = delete;
+  S2kInputFile& operator=(const S2kInputFile&) = delete;
+
+  bool Open(const std::string& path);
+  void Close();
+  bool IsOpen() const { return file_ != nullptr; }
+  /// The open file, for telling it apart from the output.
+  std::FILE* Handle() const { return file_; }
+
+  /// Reads the next line into \p line, cut at its first zero character.
+  /// At the end of the file \returns false and leaves \p line as it was.
+  bool ReadLine(std::string& line);
+
+  /// Counts the reads up to the end of the file at \p path.
+  static int CountLines(const std::string& path);
+
+ private:
+  static constexpr int kMaxRead = 499;
+  std::FILE* file_ = nullptr;
+  std::string raw_;
+};

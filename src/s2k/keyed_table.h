@@ -1,0 +1,100 @@
+// The keyed table: integer keys to records held by copy, read out by key or
+// in the walk order of a hash of 17, 1001 or 10001 buckets.
+#pragma once
+
+#include <algorithm>
+#include <cstdint>
+#include <unordered_map>
+#include <utility>
+#include <vector>
+
+template <class Rec>
+class CKeyedTable {
+ public:
+  /// Sets the bucket count that decides the walk order. Entries stay.
+  void Reset(int size) {
+    size_ = size > 0 ? size : 17;
+    walkValid_ = false;
+  }
+  int Size() const { return size_; }
+
+  /// Inserts or overwrites; an overwritten key keeps its place. \returns 1.
+  int SetAt(int key, const Rec& rec) {
+    auto [it, added] = index_.try_emplace(key, entries_.size());
+    if (added) {
+      entries_.push_back({key, rec});
+      walkValid_ = false;
+    } else {
+      entries_[it->second].second = rec;
+    }
+    return 1;
+  }
+
+  /// \returns the record of \p key, or nullptr.
+  const Rec* Lookup(int key) const {
+    auto it = index_.find(key);
+    return it == index_.end() ? nullptr : &entries_[it->second].second;
+  }
+  Rec* Lookup(int key) {
+    auto it = index_.find(key);
+    return it == index_.end() ? nullptr : &entries_[it->second].second;
+  }
+  bool Lookup(int key, Rec& out) const {
+    const Rec* rec = Lookup(key);
+    if (rec) out = *rec;
+    return rec != nullptr;
+  }
+
+  int Count() const { return static_cast<int>(entries_.size()); }
+  bool Empty() const { return entries_.empty(); }
+
+  /// Calls \p fn(key, rec) in walk order: buckets (key >> 4) % size from 0
+  /// upward, the newest key of a bucket first.
+  template <class Fn>
+  void Walk(Fn&& fn) const {
+    for (std::size_t i : WalkOrder()) fn(entries_[i].first, entries_[i].second);
+  }
+  template <class Fn>
+  void Walk(Fn&& fn) {
+    for (std::size_t i : WalkOrder()) fn(entries_[i].first, entries_[i].second);
+  }
+
+  /// Calls \p fn(key, rec) for keys 1 to Count that exist.
+  template <class Fn>
+  void ForEachKey(Fn&& fn) const {
+    for (int key = 1; key <= Count(); ++key)
+      if (const Rec* rec = Lookup(key)) fn(key, *rec);
+  }
+
+  /// Keys in walk order.
+  std::vector<int> WalkKeys() const {
+    std::vector<int> keys;
+    keys.reserve(entries_.size());
+    Walk([&](int key, const Rec&) { keys.push_back(key); });
+    return keys;
+  }
+
+ private:
+  std::uint32_t Bucket(int key) const {
+    return (static_cast<std::uint32_t>(key) >> 4) % static_cast<std::uint32_t>(size_);
+  }
+  const std::vector<std::size_t>& WalkOrder() const {
+    if (!walkValid_) {
+      walk_.resize(entries_.size());
+      for (std::size_t i = 0; i < walk_.size(); ++i) walk_[i] = i;
+      // Within a bucket the newest entry heads the chain.
+      std::sort(walk_.begin(), walk_.end(), [&](std::size_t a, std::size_t b) {
+        std::uint32_t ba = Bucket(entries_[a].first), bb = Bucket(entries_[b].first);
+        return ba != bb ? ba < bb : a > b;
+      });
+      walkValid_ = true;
+    }
+    return walk_;
+  }
+
+  int size_ = 17;
+  std::vector<std::pair<int, Rec>> entries_;
+  std::unordered_map<int, std::size_t> index_;
+  mutable std::vector<std::size_t> walk_;
+  mutable bool walkValid_ = false;
+};

@@ -1,0 +1,39 @@
+// Number reading shared by every parser.
+#include "s2k/numbers.h"
+
+#include <cctype>
+#include <cmath>
+#include <cstdlib>
+#include <string>
+
+double ParseDouble(std::string_view text) {
+  std::size_t i = 0, n = text.size();
+  while (i < n && std::isspace(static_cast<unsigned char>(text[i]))) ++i;
+  std::size_t start = i;
+  if (i < n && (text[i] == '+' || text[i] == '-')) ++i;
+  std::size_t digits = 0;
+  while (i < n && std::isdigit(static_cast<unsigned char>(text[i]))) ++i, ++digits;
+  if (i < n && text[i] == '.') {
+    ++i;
+    while (i < n && std::isdigit(static_cast<unsigned char>(text[i]))) ++i, ++digits;
+  }
+  if (digits == 0) return 0;
+  std::size_t end = i;
+  if (i < n && (text[i] == 'e' || text[i] == 'E')) {
+    std::size_t j = i + 1;
+    if (j < n && (text[j] == '+' || text[j] == '-')) ++j;
+    std::size_t expDigits = 0;
+    while (j < n && std::isdigit(static_cast<unsigned char>(text[j]))) ++j, ++expDigits;
+    if (expDigits > 0) end = j;
+  }
+  // The prefix is plain decimal, so strtod reads exactly it.
+  std::string prefix(text.substr(start, end - start));
+  return std::strtod(prefix.c_str(), nullptr);
+}
+
+int ParseInt(const std::string& text) { return std::atoi(text.c_str()); }
+
+int TruncateToInt(double value) {
+  if (!(value > -2147483649.0 && value < 2147483648.0)) return -2147483647 - 1;
+  return static_cast<int>(value);
+}

@@ -1,0 +1,91 @@
+// The read loop: lines of the s2k file to tables of row texts.
+#include <string>
+
+#include "frame/converter.h"
+#include "s2k/keys.h"
+
+namespace {
+
+// The first words of a file of the older layout.
+constexpr std::string_view kOlderLayoutWords[] = {"SYSTEM", "JOINT", "RESTRAINT", "MATERIAL",
+                                                  "FRAME",  "LOAD",  "PATTERN"};
+
+bool IsOlderLayout(const std::string& titleLine) {
+  for (std::string_view word : kOlderLayoutWords)
+    if (StartsWith(titleLine, word)) return true;
+  return false;
+}
+
+}  // namespace
+
+// A read that meets the end of the file leaves the line as it was, and the
+// loops don't test for it: they see the last line again. That is how a file
+// without END ends (short lines, a foreign line) or goes on until stopped.
+int CS2kConverter::ReadTables() {
+  rowLines.clear();
+  rowRows.clear();
+  ui_.SetStage(1);
+  std::string line;
+  int lineCounter = 0;
+  int shortRun = 0;
+  for (;;) {
+    bool fresh = inputFile.ReadLine(line);
+    std::string titleLine = line;
+    UpperCase(titleLine);
+    if (titleLine.size() < 5) {
+      if (++shortRun > 10) return 0;
+      continue;
+    }
+    shortRun = 0;
+    ++lineCounter;
+    if (StartsWith(titleLine, "END")) return 0;
+    if (StartsWith(titleLine, "FILE")) {
+      // Departs from the plain loop: a last line FILE outside any table would
+      // be ignored for ever with no advance of the bar where a stop could be
+      // noticed, so the read ends here as if the user had stopped it.
+      if (!fresh) {
+        ui_.CloseProgress();
+        ui_.InputEndsInFileLine();
+        return 1;
+      }
+      continue;
+    }
+    if (StartsWith(titleLine, "TABLE")) {
+      std::string rowText;
+      int tableId = 0;
+      bool newTitle = true;
+      for (;;) {
+        if (newTitle) {
+          tableId = RecogniseTable(titleLine);
+          rowText.clear();
+          rowRows.clear();
+          newTitle = false;
+        }
+        inputFile.ReadLine(line);
+        std::string bodyLine = line;
+        if (bodyLine.size() < 3) break;
+        if (!ui_.Advance(lineCounter)) return 1;
+        ++lineCounter;
+        if (StartsWith(bodyLine, "END") || StartsWith(bodyLine, "FILE")) break;
+        if (StartsWith(bodyLine, "TABLE")) {
+          newTitle = true;  // the old title stands
+          continue;
+        }
+        if (tableId < 1) continue;
+        int goesOn = TrimRowLine(bodyLine);
+        rowText += bodyLine;
+        if (goesOn) continue;
+        rowRows.push_back(std::move(rowText));
+        rowText.clear();
+        rowLines.push_back(lineCounter);
+      }
+      if (tableId >= 1 && !ParseTable(tableId)) return -1;
+      continue;
+    }
+    if (IsOlderLayout(titleLine) || lineCounter > 3) {
+      ShowMessage("IDS_S2KV8_Not_Convert");
+      return -1;
+    }
+    ShowMessage("IDS_S2KV8_DATA_Not_Convert");
+  }
+}

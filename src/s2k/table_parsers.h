@@ -1,0 +1,11 @@
+// The row parsers of each subject, gathered by ParseTable.
+#pragma once
+
+#include <vector>
+
+#include "frame/converter.h"
+
+const std::vector<S2kTableParser>& FrameTableParsers();
+const std::vector<S2kTableParser>& StoredTableParsers();
+const std::vector<S2kTableParser>& GeometryTableParsers();
+const std::vector<S2kTableParser>& ElementTableParsers();

@@ -1,0 +1,59 @@
+// *STRUCTYPE: the active degrees of freedom (table 101) and the record.
+#include "frame/converter.h"
+#include "s2k/table_parsers.h"
+
+namespace {
+
+constexpr S2kField<S2kActiveDofRec> kActiveDofKeys[] = {
+    FlagKey("UX=", &S2kActiveDofRec::UX), FlagKey("UY=", &S2kActiveDofRec::UY),
+    FlagKey("UZ=", &S2kActiveDofRec::UZ), FlagKey("RX=", &S2kActiveDofRec::RX),
+    FlagKey("RY=", &S2kActiveDofRec::RY), FlagKey("RZ=", &S2kActiveDofRec::RZ),
+};
+
+}  // namespace
+
+const std::vector<S2kTableParser>& FrameTableParsers() {
+  static const std::vector<S2kTableParser> parsers = {{101, &CS2kConverter::ParseActiveDof}};
+  return parsers;
+}
+
+// The first row only; a key it lacks keeps the default of the table.
+int CS2kConverter::ParseActiveDof() {
+  S2kActiveDofRec dof{1, 0, 1, 0, 1, 0};
+  if (!rowRows.empty()) ReadFields(rowRows[0], kActiveDofKeys, dof);
+  sourceModel->ActiveDof = dof;
+  return 1;
+}
+
+int CS2kConverter::ConvertStructType() {
+  const S2kActiveDofRec& dof = sourceModel->ActiveDof;
+  TvtStructTypeRec& rec = targetModel->StructType;
+  if (dof.UX && dof.UY && dof.UZ)
+    rec.iSTYP = 0;
+  else if (!dof.UX && dof.UY && dof.UZ)
+    rec.iSTYP = 2;
+  else if (dof.UX && !dof.UY && dof.UZ)
+    rec.iSTYP = 1;
+  else if (dof.UX && dof.UY && !dof.UZ)
+    rec.iSTYP = 3;
+  else
+    rec.iSTYP = 0;
+  // Masses from elements come with the mass source, not carried yet.
+  rec.iSMAS = 0;
+  rec.GRAV = GravityInModelUnits();
+  rec.TEMPER = 0;
+  rec.bALIGNBEAM = "NO";
+  rec.bALIGNSLAB = "NO";
+  rec.present = 1;
+  return 1;
+}
+
+int CS2kConverter::WriteStructType() {
+  const TvtStructTypeRec& rec = targetModel->StructType;
+  if (!rec.present) return 1;
+  WriteText("%s\n", "*STRUCTYPE    ; Structure Type");
+  WriteText("; iSTYP, iSMAS, GRAV, TEMPER, bALIGNBEAM, bALIGNSLAB\n");
+  WriteText("\t%d, %5d, %5g, %5g, %5s, %5s\n\n", rec.iSTYP, rec.iSMAS, rec.GRAV, rec.TEMPER, rec.bALIGNBEAM.c_str(),
+            rec.bALIGNSLAB.c_str());
+  return 1;
+}

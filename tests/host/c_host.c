@@ -1,0 +1,16 @@
+/* A C host: calls both exports through the shared library. The "file dialog"
+ * reads the path from standard input. */
+#include <stdio.h>
+#include <string.h>
+
+#include "quillmesh/convert.h"
+
+int main(void) {
+  QmText path = QM_TEXT_INIT;
+  int code = ConvertFile2(&path);
+  printf("ConvertFile2 %d %s\n", code, path.text ? path.text : "(none)");
+  QmTextFree(&path);
+  code = ConvertFile(); /* standard input is at its end now: Cancel */
+  printf("ConvertFile %d\n", code);
+  return 0;
+}

@@ -1,0 +1,25 @@
+// Helpers shared by the tests: temporary folders, files, conversions.
+#pragma once
+
+#include <filesystem>
+#include <string>
+
+#include "recording_ui.h"
+
+std::string ReadFile(const std::filesystem::path& path);
+void WriteFile(const std::filesystem::path& path, const std::string& bytes);
+
+/// A fresh folder under the system's temporary folder, removed on exit.
+class TempFolder {
+ public:
+  TempFolder();
+  ~TempFolder();
+  const std::filesystem::path& Path() const { return path_; }
+  std::filesystem::path operator/(const std::string& name) const { return path_ / name; }
+
+ private:
+  std::filesystem::path path_;
+};
+
+/// Converts \p s2k written to model.s2k in \p folder; \returns the code.
+int ConvertText(const TempFolder& folder, const std::string& s2k, RecordingUserInterface& ui);
