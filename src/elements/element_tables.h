@@ -1,4 +1,4 @@
-// Rows, records and tables of materials, sections, elements, offsets and springs.
+// Rows, records and tables of frames, areas, solids, thickness, end offsets and releases.
 #pragma once
 
 #include <string>

@@ -29,7 +29,10 @@ void CS2kConverter::ShowMessage(const char* key, const std::string& argument) {
 
 void CS2kConverter::ResetConversion() {
   geometryFlags = {};
+  massFlags = {};
+  propertyFlags = {};
   elementFlags = {};
+  springFlags = {};
   ElementsRenumbered = 0;
   ElementNamesNumeric = 1;
   solidNodeCount = 8;
@@ -65,9 +68,9 @@ int CS2kConverter::ConvertModel() {
       &CS2kConverter::ConvertAreaStep,      // 4 areas
       &CS2kConverter::ConvertSolidStep,     // 5 solids
       nullptr,                              // 6 load cases
-      nullptr,                              // 7 materials
-      nullptr,                              // 8 frame sections
-      nullptr,                              // 9 area sections to thickness
+      &CS2kConverter::ConvertMaterials,     // 7 materials
+      &CS2kConverter::ConvertFrameSections, // 8 frame sections, nonprismatic sections, scale factors
+      &CS2kConverter::ConvertAreaSections,  // 9 area sections to thickness
       nullptr,                              // 10 lanes
       nullptr,                              // 11 vehicles of table 162
       nullptr,                              // 12 vehicles of tables 163 and 164
@@ -89,8 +92,20 @@ int CS2kConverter::ConvertModel() {
   return 0;
 }
 
-int CS2kConverter::ConvertJointStep() { return 1; }
-int CS2kConverter::ConvertFrameStep() { return 1; }
-int CS2kConverter::ConvertAreaStep() { return 1; }
-int CS2kConverter::ConvertSolidStep() { return 1; }
+// Joints first: every later step names them. The joint number map comes
+// last, once all joints are known.
+int CS2kConverter::ConvertJointStep() {
+  return ConvertJoints() && ConvertRestraints() && ConvertJointLocalAxes() && ConvertJointSprings() &&
+         ConvertCoupledSprings() && ConvertJointMasses() && ConvertConstraints() &&
+         (targetModel->jointsKeepNumbers || BuildJointNumberMap());
+}
+
+int CS2kConverter::ConvertFrameStep() {
+  return ConvertFrames() && ConvertFrameReleases() && ConvertEndOffsets() && ConvertFrameSprings() &&
+         ConvertFrameMasses();
+}
+
+int CS2kConverter::ConvertAreaStep() { return ConvertAreas() && ConvertAreaMasses() && ConvertAreaSprings(); }
+
+int CS2kConverter::ConvertSolidStep() { return ConvertSolids(); }
 int CS2kConverter::ConvertAnalysisStep() { return ConvertStructType(); }

@@ -161,5 +161,8 @@ class CS2kConverter {
 
   // ---- run flags, cleared by ResetConversion --------------------------------------
   GeometryRunFlags geometryFlags;
+  MassRunFlags massFlags;
+  PropertyRunFlags propertyFlags;
   ElementRunFlags elementFlags;
+  SpringRunFlags springFlags;
 };

@@ -17,7 +17,8 @@ struct TableActions {
   std::array<const char*, kLastId + 1> warning{};
 
   TableActions() {
-    for (auto* list : {&FrameTableParsers, &StoredTableParsers, &GeometryTableParsers, &ElementTableParsers})
+    for (auto* list : {&FrameTableParsers, &StoredTableParsers, &GeometryTableParsers, &MassTableParsers,
+                       &PropertyTableParsers, &ElementTableParsers, &SpringTableParsers})
       for (const S2kTableParser& entry : list()) parse[entry.tableId] = entry.parse;
     for (const S2kWarningTable& entry : kWarningTables) warning[entry.tableId] = entry.key;
   }

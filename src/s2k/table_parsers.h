@@ -9,3 +9,6 @@ const std::vector<S2kTableParser>& FrameTableParsers();
 const std::vector<S2kTableParser>& StoredTableParsers();
 const std::vector<S2kTableParser>& GeometryTableParsers();
 const std::vector<S2kTableParser>& ElementTableParsers();
+const std::vector<S2kTableParser>& MassTableParsers();
+const std::vector<S2kTableParser>& PropertyTableParsers();
+const std::vector<S2kTableParser>& SpringTableParsers();

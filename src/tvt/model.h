@@ -4,7 +4,10 @@
 #include <string>
 
 #include "elements/element_tables.h"
+#include "elements/property_tables.h"
+#include "elements/spring_tables.h"
 #include "geometry/geometry_tables.h"
+#include "geometry/mass_tables.h"
 
 class CS2kModel;
 
@@ -19,13 +22,20 @@ struct TvtStructTypeRec {
   int present = 0;
 };
 
-class CTvtModel : public TvtGeometryTables, public TvtElementTables {
+class CTvtModel : public TvtGeometryTables,
+                  public TvtMassTables,
+                  public TvtPropertyTables,
+                  public TvtElementTables,
+                  public TvtSpringTables {
  public:
   explicit CTvtModel(const CS2kModel& source) : sourceModel(source) {}
 
   void Reset() {
     TvtGeometryTables::Reset();
+    TvtMassTables::Reset();
+    TvtPropertyTables::Reset();
     TvtElementTables::Reset();
+    TvtSpringTables::Reset();
   }
 
   const CS2kModel& sourceModel;
