@@ -55,6 +55,32 @@ class CS2kConverter {
     return ::ParseRows(rowRows, fields, table);
   }
 
+  // ---- s2k/stored_tables.cpp: tables no conversion reads ---------------------
+  int ParseAreaRotateLoad();
+  int ParseAreaUniformToFrameLoad();
+  int ParseAreaWindCoefficient();
+  int ParseAreaMaterialTemperature();
+  int ParseCaseModalLoad();
+  int ParseCaseModalHistoryDamping();
+  int ParseCaseSpectrumModalDamping();
+  int ParseCaseSpectrumProportionalDamping();
+  int ParseCaseSpectrumModeDamping();
+  int ParseConstraintLocal();
+  int ParsePlotFunction();
+  int ParseFunctionCosine();
+  int ParseFunctionRamp();
+  int ParseFunctionSawtooth();
+  int ParseFunctionSine();
+  int ParseFunctionTriangular();
+  int ParseFunctionUserPeriodic();
+  int ParseGroupDefinition();
+  int ParseGroupAssignment();
+  int ParseGroupMass();
+  int ParseJointMassSource();
+  int ParseSolidAutoMesh();
+  int ParseSolidMaterialTemperature();
+  int ParseAreaSummary();
+
   // ---- tvt/writer.cpp: the TVT file ------------------------------------------
   int WriteOutput(const std::string& inputPath);
   int WriteCommands();

@@ -10,6 +10,8 @@ class RecordingUserInterface : public quillmesh::UserInterface {
  public:
   /// Messages as "message KEY", or "text TEXT" for the system's own texts.
   std::vector<std::string> messages;
+  /// The texts shown, as the user reads them.
+  std::vector<std::string> texts;
   /// Progress calls: "open N", "stage S", "range H", "advance P", "close".
   std::vector<std::string> progress;
   std::string chosenPath;     ///< what the file dialog returns; empty is Cancel
@@ -25,6 +27,7 @@ class RecordingUserInterface : public quillmesh::UserInterface {
   }
   void ShowMessage(const std::string& text, const std::string& key) override {
     messages.push_back(key.empty() ? "text " + text : "message " + key);
+    texts.push_back(text);
   }
   void OpenProgress(int lineCount) override {
     lineCount_ = lineCount;

@@ -1,7 +1,15 @@
 // Helpers shared by the tests.
 #include "test_support.h"
 
+#include <fcntl.h>
+#include <signal.h>
+#include <spawn.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <chrono>
 #include <fstream>
+#include <thread>
 #include <random>
 #include <sstream>
 
@@ -32,4 +40,44 @@ TempFolder::~TempFolder() {
 int ConvertText(const TempFolder& folder, const std::string& s2k, RecordingUserInterface& ui) {
   WriteFile(folder / "model.s2k", s2k);
   return quillmesh::ConvertPath((folder / "model.s2k").string(), ui);
+}
+
+CliRun RunCli(const std::vector<std::string>& args, const std::filesystem::path& folder, double limitSeconds) {
+  std::vector<std::string> words = {QUILLMESH_CLI};
+  words.insert(words.end(), args.begin(), args.end());
+  std::vector<char*> argv;
+  for (std::string& word : words) argv.push_back(word.data());
+  argv.push_back(nullptr);
+  std::string outPath = (folder / "cli.out").string(), errPath = (folder / "cli.err").string();
+  posix_spawn_file_actions_t actions;
+  posix_spawn_file_actions_init(&actions);
+  posix_spawn_file_actions_addopen(&actions, 0, "/dev/null", O_RDONLY, 0);
+  posix_spawn_file_actions_addopen(&actions, 1, outPath.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0644);
+  posix_spawn_file_actions_addopen(&actions, 2, errPath.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0644);
+  std::string cwd = std::filesystem::current_path().string();
+  std::filesystem::current_path(folder);
+  pid_t pid = 0;
+  int spawned = posix_spawn(&pid, argv[0], &actions, nullptr, argv.data(), environ);
+  std::filesystem::current_path(cwd);
+  posix_spawn_file_actions_destroy(&actions);
+  CliRun run;
+  if (spawned != 0) return run;
+  auto start = std::chrono::steady_clock::now();
+  int status = 0;
+  for (;;) {
+    if (waitpid(pid, &status, WNOHANG) == pid) break;
+    run.seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+    if (run.seconds > limitSeconds) {
+      kill(pid, SIGKILL);
+      waitpid(pid, &status, 0);
+      status = -1;
+      break;
+    }
+    std::this_thread::sleep_for(std::chrono::milliseconds(2));
+  }
+  run.seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+  if (status != -1 && WIFEXITED(status)) run.exitCode = WEXITSTATUS(status);
+  run.out = ReadFile(outPath);
+  run.err = ReadFile(errPath);
+  return run;
 }

@@ -3,6 +3,7 @@
 
 #include <filesystem>
 #include <string>
+#include <vector>
 
 #include "recording_ui.h"
 
@@ -23,3 +24,14 @@ class TempFolder {
 
 /// Converts \p s2k written to model.s2k in \p folder; \returns the code.
 int ConvertText(const TempFolder& folder, const std::string& s2k, RecordingUserInterface& ui);
+
+/// What a run of the command line gave.
+struct CliRun {
+  int exitCode = -1;      ///< -1 when it had to be killed
+  std::string out, err;
+  double seconds = 0;
+};
+
+/// Runs the quillmesh command line with \p args in \p folder, killing it
+/// after \p limitSeconds.
+CliRun RunCli(const std::vector<std::string>& args, const std::filesystem::path& folder, double limitSeconds = 5);

@@ -1,0 +1,146 @@
+// Keyed tables, title recognition and the shared row parser.
+#include <gtest/gtest.h>
+
+#include "frame/converter.h"
+#include "recording_ui.h"
+#include "s2k/fields.h"
+
+namespace {
+
+std::vector<int> Range(int from, int to) {  // inclusive, either direction
+  std::vector<int> keys;
+  for (int k = from; from <= to ? k <= to : k >= to; from <= to ? ++k : --k) keys.push_back(k);
+  return keys;
+}
+
+std::vector<int> Concat(std::initializer_list<std::vector<int>> parts) {
+  std::vector<int> all;
+  for (const auto& part : parts) all.insert(all.end(), part.begin(), part.end());
+  return all;
+}
+
+std::vector<int> WalkOf(int buckets, int rows) {
+  CKeyedTable<int> table;
+  table.Reset(buckets);
+  for (int key = 1; key <= rows; ++key) table.SetAt(key, key * 10);
+  return table.WalkKeys();
+}
+
+std::vector<int> Head(const std::vector<int>& keys, std::size_t n) {
+  return {keys.begin(), keys.begin() + static_cast<long>(std::min(n, keys.size()))};
+}
+
+TEST(KeyedTable, WalksInRunsOfSixteenAndWrapsWithTheBucketCount) {
+  EXPECT_EQ(Concat({Range(15, 1), Range(20, 16)}), WalkOf(10001, 20));
+  EXPECT_EQ(Concat({Range(15, 1), Range(20, 16)}), WalkOf(17, 20));
+  // 17 buckets: key 272 falls into bucket 0 again, and the newest comes first.
+  EXPECT_EQ(Concat({Range(287, 272), Range(15, 1), Range(300, 288), Range(31, 16)}), Head(WalkOf(17, 300), 60));
+  EXPECT_EQ(Concat({Range(16020, 16016), Range(15, 1), Range(31, 16)}), Head(WalkOf(1001, 16020), 36));
+  EXPECT_EQ(Concat({Range(160020, 160016), Range(15, 1)}), Head(WalkOf(10001, 160020), 20));
+}
+
+TEST(KeyedTable, OverwritesInPlaceAndLooksUp) {
+  CKeyedTable<std::string> table;
+  table.Reset(10001);
+  for (int key = 1; key <= 3; ++key) table.SetAt(key, "first");
+  table.SetAt(2, "second");
+  EXPECT_EQ(3, table.Count());
+  EXPECT_EQ((std::vector<int>{3, 2, 1}), table.WalkKeys());
+  std::string got = "stale";
+  EXPECT_TRUE(table.Lookup(2, got));
+  EXPECT_EQ("second", got);
+  EXPECT_FALSE(table.Lookup(9, got));
+  EXPECT_EQ("second", got);  // a failed lookup leaves the output alone
+  std::vector<int> keyOrder;
+  table.ForEachKey([&](int key, const std::string&) { keyOrder.push_back(key); });
+  EXPECT_EQ((std::vector<int>{1, 2, 3}), keyOrder);
+}
+
+TEST(Recognition, FirstWordAtColumnNineThenTheFirstMemberWordAnywhere) {
+  RecordingUserInterface ui;
+  CS2kConverter engine(ui);
+  struct Case {
+    std::string title;
+    int want;
+  };
+  for (const Case& c : {
+           Case{"TABLE:  \"ACTIVE DEGREES OF FREEDOM\"", 101},
+           Case{"TABLE:  \"JOINT COORDINATES\"", 333},
+           Case{"TABLE:  \"JOINT\"", 0},
+           Case{"TABLE: \"JOINT COORDINATES\"", 0},    // one blank
+           Case{"TABLE:   \"JOINT COORDINATES\"", 0},  // three blanks
+           Case{"TABLE:  \"GENERALIZED DISPLACEMENTS\"", 105},
+           Case{"TABLE:  \"AUTO SEISMIC - UBC97 ISOLATED\"", 136},
+           Case{"TABLE:  \"AUTO SEISMIC - UBC97\"", 136},
+           Case{"TABLE:  \"AUTO WIND - ASCE7-98\"", 146},
+           Case{"TABLE:  \"AREA LOADS - TEMPERATURE\"", 117},
+           Case{"TABLE:  \"AREA MATERIAL TEMPERATURE\"", 117},
+           Case{"TABLE:  \"AREA UNIFORM TO FRAME LOADS\"", 118},
+           Case{"TABLE:  \"AREA LOADS - UNIFORM\"", 119},
+           Case{"TABLE:  \"DATABASE FIELD DEFINITIONS\"", 222},
+           Case{"TABLE:  \"DATABASE OTHER\"", 224},  // "TABLE" is in every title
+           Case{"TABLE:  \"FRAME LOADS - TEMPERATURE\"", 238},
+           Case{"TABLE:  \"FRAME SECTION ASSIGNMENTS\"", 252},
+           Case{"TABLE:  \"FRAME SECTION PROPERTIES 1 - GENERAL\"", 253},
+           Case{"TABLE:  \"FRAME SECTION PROPERTIES 01 - GENERAL\"", 0},  // the member word is "1 - GENERAL"
+           Case{"TABLE:  \"MATERIAL PROPERTIES 01 - GENERAL\"", 381},
+           Case{"TABLE:  \"MATERIAL PROPERTIES 02 - BASIC MECHANICAL PROPERTIES\"", 382},
+           Case{"TABLE:  \"GROUPS 3 - MASSES AND WEIGHTS\"", 313},
+           Case{"TABLE:  \"LINK PROPERTY DEFINITIONS 10 - PLASTIC (WEN)\"", 363},
+           Case{"TABLE:  \"JOINT SPRING ASSIGNMENTS 2 - COUPLED\"", 343},
+           Case{"TABLE:  \"SOLIDS\"", 0},
+           Case{"TABLE:  \"SOLID PROPERTY ASSIGNMENTS\"", 489},
+           Case{"TABLE:  \"CONNECTIVITY - FRAME\"", 202},
+           Case{"TABLE:  \"BRIDGE LOADS 3 - VEHICLES 2\"", 163},
+           Case{"TABLE:  \"OPTIONS - COLORS\"", 600},
+           Case{"TABLE:  \"PROGRAM CONTROL\"", 108},
+           Case{"TABLE:  \"NOT A TABLE\"", 0},
+       }) {
+    EXPECT_EQ(c.want, engine.RecogniseTable(c.title)) << c.title;
+  }
+}
+
+struct TestRow {
+  std::string Name, Type;
+  double Value = 7;
+  int Count = 0, On = 0;
+};
+
+constexpr S2kField<TestRow> kTestKeys[] = {
+    TextKey("Name=", &TestRow::Name),       TextKey("Type=", &TestRow::Type),
+    NumberKey("Value=", &TestRow::Value),   IntegerKey("Count=", &TestRow::Count),
+    FlagKey("On=", &TestRow::On),
+};
+
+TEST(ParseRows, KeysRowsByPositionWithDefaultsForMissingKeys) {
+  std::vector<std::string> rows = {
+      "Name=A   Type=X   Value=1.5   Count=2.9   On=Yes",
+      "Type=Y",                                        // missing keys keep the defaults
+      "Name=C   AreaType=Z   Name=D   Count=1e10",     // substring key, repeated key, out of range
+      "",
+  };
+  CKeyedTable<TestRow> table;
+  ASSERT_EQ(1, ParseRows(rows, kTestKeys, table));
+  ASSERT_EQ(4, table.Count());
+  const TestRow* a = table.Lookup(1);
+  EXPECT_EQ("A", a->Name);
+  EXPECT_EQ(1.5, a->Value);
+  EXPECT_EQ(2, a->Count);
+  EXPECT_EQ(1, a->On);
+  const TestRow* b = table.Lookup(2);
+  EXPECT_EQ("", b->Name);
+  EXPECT_EQ("Y", b->Type);
+  EXPECT_EQ(7, b->Value);
+  const TestRow* c = table.Lookup(3);
+  EXPECT_EQ("C", c->Name);
+  EXPECT_EQ("Z", c->Type);
+  EXPECT_EQ(-2147483647 - 1, c->Count);
+  EXPECT_EQ("", table.Lookup(4)->Name);
+
+  // A second table of the same kind overwrites key by key.
+  ASSERT_EQ(1, ParseRows(std::vector<std::string>{"Name=E"}, kTestKeys, table));
+  EXPECT_EQ("E", table.Lookup(1)->Name);
+  EXPECT_EQ("Y", table.Lookup(2)->Type);
+}
+
+}  // namespace
