@@ -89,6 +89,17 @@ TEST(CommandLine, ExitCodesTellFinishedFailedAndUsage) {
   EXPECT_NE(std::string::npos, RunCli({}, folder.Path()).err.find("usage: quillmesh"));
 }
 
+TEST(CommandLine, CtrlCStopsTheRunWithNothingWritten) {
+  TempFolder folder;
+  std::string text = "TABLE:  \"GRID LINES\"\n";
+  for (int row = 0; row < 1000000; ++row) text += "   Grid=A\n";
+  WriteFile(folder / "model.s2k", text + "\nEND\n");
+  CliRun run = RunCli({"--message-keys", "model.s2k"}, folder.Path(), 30, "[IDS_S2KV8_Export_must_be_executed]");
+  EXPECT_EQ(1, run.exitCode) << run.err;
+  EXPECT_NE(std::string::npos, run.err.find("stopped by Ctrl-C")) << run.err;
+  EXPECT_FALSE(fs::exists(folder / "model.tvt"));
+}
+
 TEST(CommandLine, WithoutTheCatalogueBesideTheLibraryMessagesReadTheFallback) {
   TempFolder folder;
   fs::path bin = fs::path(QUILLMESH_CLI).parent_path();

@@ -42,7 +42,8 @@ int ConvertText(const TempFolder& folder, const std::string& s2k, RecordingUserI
   return quillmesh::ConvertPath((folder / "model.s2k").string(), ui);
 }
 
-CliRun RunCli(const std::vector<std::string>& args, const std::filesystem::path& folder, double limitSeconds) {
+CliRun RunCli(const std::vector<std::string>& args, const std::filesystem::path& folder, double limitSeconds,
+              const std::string& interruptWhen) {
   std::vector<std::string> words = {QUILLMESH_CLI};
   words.insert(words.end(), args.begin(), args.end());
   std::vector<char*> argv;
@@ -64,8 +65,13 @@ CliRun RunCli(const std::vector<std::string>& args, const std::filesystem::path&
   if (spawned != 0) return run;
   auto start = std::chrono::steady_clock::now();
   int status = 0;
+  bool interrupted = interruptWhen.empty();
   for (;;) {
     if (waitpid(pid, &status, WNOHANG) == pid) break;
+    if (!interrupted && ReadFile(errPath).find(interruptWhen) != std::string::npos) {
+      kill(pid, SIGINT);
+      interrupted = true;
+    }
     run.seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
     if (run.seconds > limitSeconds) {
       kill(pid, SIGKILL);

@@ -34,4 +34,6 @@ struct CliRun {
 
 /// Runs the quillmesh command line with \p args in \p folder, killing it
 /// after \p limitSeconds.
-CliRun RunCli(const std::vector<std::string>& args, const std::filesystem::path& folder, double limitSeconds = 5);
+/// With \p interruptWhen, sends it SIGINT once its stderr holds that text.
+CliRun RunCli(const std::vector<std::string>& args, const std::filesystem::path& folder, double limitSeconds = 5,
+              const std::string& interruptWhen = "");
