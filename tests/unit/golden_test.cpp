@@ -65,11 +65,6 @@ TEST_P(Golden, GivesExactOutputMessagesAndCode) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Cases, Golden, testing::ValuesIn(GoldenCases()),
-                         [](const testing::TestParamInfo<fs::path>& info) {
-                           std::string name = info.param.filename().string();
-                           for (char& c : name)
-                             if (!std::isalnum(static_cast<unsigned char>(c))) c = '_';
-                           return name;
-                         });
+                         [](const testing::TestParamInfo<fs::path>& info) { return CaseName(info.param); });
 
 }  // namespace

@@ -72,12 +72,7 @@ TEST_P(Corpus, ConvertsToACompleteFile) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Files, Corpus, testing::ValuesIn(CorpusFiles()),
-                         [](const testing::TestParamInfo<fs::path>& info) {
-                           std::string name = info.param.stem().string();
-                           for (char& c : name)
-                             if (!std::isalnum(static_cast<unsigned char>(c))) c = '_';
-                           return name;
-                         });
+                         [](const testing::TestParamInfo<fs::path>& info) { return CaseName(info.param); });
 GTEST_ALLOW_UNINSTANTIATED_PARAMETERIZED_TEST(Corpus);
 
 }  // namespace

@@ -7,6 +7,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <cctype>
 #include <chrono>
 #include <fstream>
 #include <thread>
@@ -86,4 +87,11 @@ CliRun RunCli(const std::vector<std::string>& args, const std::filesystem::path&
   run.out = ReadFile(outPath);
   run.err = ReadFile(errPath);
   return run;
+}
+
+std::string CaseName(const std::filesystem::path& path) {
+  std::string name = path.stem().string();
+  for (char& c : name)
+    if (!std::isalnum(static_cast<unsigned char>(c))) c = '_';
+  return name;
 }

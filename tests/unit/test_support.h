@@ -22,6 +22,9 @@ class TempFolder {
   std::filesystem::path path_;
 };
 
+/// A test name made of a file's stem: letters and digits, '_' for the rest.
+std::string CaseName(const std::filesystem::path& path);
+
 /// Converts \p s2k written to model.s2k in \p folder; \returns the code.
 int ConvertText(const TempFolder& folder, const std::string& s2k, RecordingUserInterface& ui);
 
