@@ -6,7 +6,7 @@ int CS2kConverter::FindMaterialNumber(const std::string& name, int& number) {
   const CKeyedTable<S2kMaterial1Row>& table = sourceModel->Material1;
   if (table.Empty()) return 0;
   if (const auto* hit = materialNames.Find(table, name)) {
-    number = hit->first;
+    number = hit->First();
     return 1;
   }
   // The walk ran to its end without a match.
@@ -20,7 +20,7 @@ int CS2kConverter::ConvertOrthotropicMaterial(const std::string& name, const std
   if (table.Empty()) return 0;
   const auto* hit = orthotropicNames.Find(table, name);
   if (!hit) return 0;
-  const S2kMaterial2Row& row = *table.Lookup(hit->first);
+  const S2kMaterial2Row& row = *table.Lookup(hit->First());
   // The target's y and z are the source's 3 and 2, in every family.
   TvtMaterialRec rec;
   rec.kind = 2;

@@ -3,6 +3,7 @@
 
 #include <string>
 #include <unordered_map>
+#include <vector>
 
 #include "s2k/keyed_table.h"
 
@@ -175,20 +176,22 @@ struct PropertyRunFlags {
 // ---- name lookups -------------------------------------------------------------------
 
 /// The keys a linear walk would stop at, for every name of one text field of
-/// a table: the first and the last row of that name in walk order, and the
-/// last row of the walk. Built on first use; rebuilt when the row count of
-/// the table changes (tables only grow while the file is read).
+/// a table: all rows of that name in walk order, and the last row of the
+/// walk. Built on first use; rebuilt when the row count of the table changes
+/// (tables only grow while the file is read, and are looked up after).
 template <class Row>
 class CNameIndex {
  public:
+  /// The keys of one name, in walk order; never empty.
   struct Hit {
-    int first = 0;
-    int last = 0;
+    std::vector<int> keys;
+    int First() const { return keys.front(); }
+    int Last() const { return keys.back(); }
   };
 
   explicit CNameIndex(std::string Row::*field) : field_(field) {}
 
-  /// The keys of \p name, or nullptr when no row bears it.
+  /// The rows named \p name, or nullptr when there are none.
   const Hit* Find(const CKeyedTable<Row>& table, const std::string& name) {
     Refresh(table);
     auto it = hits_.find(name);
@@ -208,8 +211,7 @@ class CNameIndex {
     hits_.clear();
     lastWalked_ = 0;
     table.Walk([&](int key, const Row& row) {
-      auto [it, added] = hits_.try_emplace(row.*field_, Hit{key, key});
-      if (!added) it->second.last = key;
+      hits_[row.*field_].keys.push_back(key);
       lastWalked_ = key;
     });
   }
@@ -220,3 +222,10 @@ class CNameIndex {
   int lastWalked_ = 0;
   std::unordered_map<std::string, Hit> hits_;
 };
+
+/// D1 to D6 of a section by its shape code, into \p D. With \p pairedForm the
+/// double shapes take their own order, as plain sections do; the ends of a
+/// taper don't.
+void FillSectionDimensions(const S2kFrameSectionRow& row, const std::string& code, bool pairedForm, double* D);
+/// AREA, ASy, ASz, Ixx, Iyy, Izz of index \p end from the section's row.
+void FillSectionProperties(const S2kFrameSectionRow& row, TvtSectionRec& rec, int end);

@@ -147,6 +147,10 @@ class CS2kConverter {
   int ConvertFrameSections();
   int WriteSections();
   int WriteSectionScales();
+  /// The AREA and C lines of index \p end of a built section.
+  void WriteSectionValues(const TvtSectionRec& rec, int end);
+  /// The lines of a tapered section.
+  void WriteTaperedSection(int iSEC, const TvtSectionRec& rec);
   /// The code of a shape word; empty for a word outside the shape table.
   /// \p BLT is set to 2.
   static std::string MapSectionShape(const std::string& shape, int& BLT);
