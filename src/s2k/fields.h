@@ -76,7 +76,7 @@ int ParseRows(const std::vector<std::string>& rows, const S2kField<Row> (&fields
     Row row{};
     ReadFields(rows[i], fields, row);
     if (!special(rows[i], row)) return 0;
-    if (!table.SetAt(static_cast<int>(i + 1), row)) return 0;
+    if (!table.SetAt(static_cast<int>(i + 1), std::move(row))) return 0;
   }
   return 1;
 }

@@ -19,13 +19,14 @@ class CKeyedTable {
   int Size() const { return size_; }
 
   /// Inserts or overwrites; an overwritten key keeps its place. \returns 1.
-  int SetAt(int key, const Rec& rec) {
+  template <class R>
+  int SetAt(int key, R&& rec) {
     auto [it, added] = index_.try_emplace(key, entries_.size());
     if (added) {
-      entries_.push_back({key, rec});
+      entries_.emplace_back(key, std::forward<R>(rec));
       walkValid_ = false;
     } else {
-      entries_[it->second].second = rec;
+      entries_[it->second].second = std::forward<R>(rec);
     }
     return 1;
   }

@@ -20,20 +20,22 @@ void TrimRight(std::string& text) {
 bool FindValue(const std::string& rowText, std::string_view key, std::string& value) {
   std::size_t at = rowText.find(key);
   if (at == std::string::npos) return false;
-  value.assign(rowText, at + key.size(), std::string::npos);
-  std::size_t eq = value.find('=');
-  if (eq != std::string::npos) {
+  std::string_view rest = std::string_view(rowText).substr(at + key.size());
+  std::size_t eq = rest.find('=');
+  if (eq != std::string_view::npos) {
     for (std::size_t s = eq; s >= 1; --s) {
-      if (value[s] == ' ') {
-        value.resize(s + 1);
+      if (rest[s] == ' ') {
+        rest = rest.substr(0, s + 1);
         break;
       }
     }
   }
-  TrimRight(value);
-  for (char& c : value)
-    if (c == '\t') c = ' ';
-  std::erase(value, '"');
+  while (!rest.empty() && IsSpace(rest.back())) rest.remove_suffix(1);
+  value.clear();
+  for (char c : rest) {
+    if (c == '"') continue;
+    value.push_back(c == '\t' ? ' ' : c);
+  }
   return true;
 }
 
