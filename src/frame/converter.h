@@ -171,6 +171,21 @@ class CS2kConverter {
   int ConvertFrames();
   int WriteElements();
 
+  // ---- elements/element_parsers.cpp ------------------------------------------------
+  int ParseAreaSectionAssign();  // 125
+  int ParseAreaSection();        // 126
+  int ParseConnectivityArea();   // 201
+  int ParseConnectivityFrame();  // 202
+  int ParseConnectivitySolid();  // 204
+  int ParseFrameLocalAxes1();    // 239
+  int ParseFrameLocalAxes2();    // 240
+  int ParseFrameOffset();        // 243
+  int ParseFrameRelease();       // 250
+  int ParseFramePartialFix();    // 251
+  int ParseSolidPropAssign();    // 489
+  int ParseSolidProp();          // 490
+  int ParseSolidSummary();       // 505
+
   // ---- elements/areas.cpp -------------------------------------------------------
   int ConvertAreas();
   int ConvertSolids();
