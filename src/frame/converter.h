@@ -117,7 +117,9 @@ class CS2kConverter {
   int ConvertJointLocalAxes();
   int WriteLocalAxes();
 
-  // ---- geometry/masses.cpp ------------------------------------------------------
+  // ---- geometry/masses.cpp, geometry/mass_parsers.cpp ---------------------------
+  int ParseFrameMasses();
+  int ParseAreaMasses();
   int ConvertJointMasses();
   int ConvertFrameMasses();
   int ConvertAreaMasses();
@@ -196,9 +198,15 @@ class CS2kConverter {
   int WriteOffsets();
   int WriteFrameReleases();
 
-  // ---- elements/springs.cpp -----------------------------------------------------
+  // ---- elements/springs.cpp, elements/spring_parsers.cpp -------------------------
+  int ParseJointSprings();
+  int ParseJointCoupledSprings();
+  int ParseFrameSprings();
+  int ParseAreaSprings();
   int ConvertJointSprings();
   int ConvertCoupledSprings();
+  /// Lumps line springs onto joints: \p mode 1 frames, 2 areas.
+  int ConvertLineSprings(int mode);
   int ConvertFrameSprings();
   int ConvertAreaSprings();
   int WriteSprings();
