@@ -68,17 +68,15 @@ int CS2kConverter::ConvertSolids() {
 
 int CS2kConverter::FindAreaSectionName(const std::string& name, int kind, std::string& section) {
   if (kind == 1) {
-    const auto& table = sourceModel->FrameSectionAssigns;
-    const auto* hit = frameSectionAssignFrames.Find(table, name);
-    if (!hit) return 0;
-    section = table.Lookup(hit->First())->AnalSect;
+    const S2kFrameSectionAssignRow* row = frameSectionAssignFrames.Find(sourceModel->FrameSectionAssigns, name);
+    if (!row) return 0;
+    section = row->AnalSect;
     return 1;
   }
   if (kind == 2) {
-    const auto& table = sourceModel->AreaSectionAssign;
-    const auto* hit = areaSectionAssignNames.Find(table, name);
-    if (!hit) return 0;
-    section = table.Lookup(hit->First())->Section;
+    const S2kAreaSectionAssignRow* row = areaSectionAssignNames.Find(sourceModel->AreaSectionAssign, name);
+    if (!row) return 0;
+    section = row->Section;
     return 1;
   }
   return 0;
@@ -90,7 +88,7 @@ int CS2kConverter::FindAreaSectionData(const std::string& section, const S2kConn
                                        int& iMAT, int& iSUB, std::string& TYPE) {
   const auto& table = sourceModel->AreaSection;
   if (table.Empty()) return 1;
-  if (const auto* hit = areaSectionRows.Find(table, section)) {
+  if (const auto* hit = areaSectionRows.Hits(table, section)) {
     for (int key : hit->keys) {
       iPRO = key;
       const S2kAreaSectionRow& row = *table.Lookup(key);
@@ -139,13 +137,13 @@ int CS2kConverter::IsFlatInY(const S2kConnectivityAreaRow& area) {
 int CS2kConverter::FindSolidMaterial(const std::string& name, int& number) {
   const auto& assigns = sourceModel->SolidPropAssign;
   if (assigns.Empty()) return 1;
-  const auto* hit = solidPropAssignRows.Find(assigns, name);
+  const auto* hit = solidPropAssignRows.Hits(assigns, name);
   if (!hit) return 0;
   const auto& props = sourceModel->SolidProp;
   for (int key : hit->keys) {
     std::string material;
-    if (const auto* prop = solidPropNames.Find(props, assigns.Lookup(key)->SolidProp))
-      material = props.Lookup(prop->First())->Material;
+    if (const S2kSolidPropRow* prop = solidPropNames.Find(props, assigns.Lookup(key)->SolidProp))
+      material = prop->Material;
     if (FindElementMaterial(material, number)) return 1;
   }
   return 0;

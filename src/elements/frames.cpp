@@ -48,10 +48,10 @@ void CS2kConverter::FindFrameSection(int key, int& iPRO, int& iMAT) {
   if (const S2kFrameSectionAssignRow* assign = assigns.Lookup(key)) section = assign->AnalSect;
   const auto& sections = sourceModel->FrameSections;
   if (sections.Empty()) return;
-  const auto* hit = sectionNames.Find(sections, section);
-  if (!hit) return;
-  iPRO = hit->First();
-  const S2kFrameSectionRow& row = *sections.Lookup(hit->First());
+  const int sectionKey = sectionNames.FindKey(sections, section);
+  if (!sectionKey) return;
+  iPRO = sectionKey;
+  const S2kFrameSectionRow& row = *sections.Lookup(sectionKey);
   if (row.Shape != "Nonprismatic") {
     FindMaterialNumber(row.Material, iMAT);
     return;
@@ -59,27 +59,25 @@ void CS2kConverter::FindFrameSection(int key, int& iPRO, int& iMAT) {
   // A nonprismatic section takes the material of its first segment's start.
   const auto& segments = sourceModel->FrameNonprismatic;
   if (segments.Empty()) return;
-  const auto* segment = nonprismaticNames.Find(segments, section);
+  const S2kFrameNonprismaticRow* segment = nonprismaticNames.Find(segments, section);
   if (!segment) return;
-  const auto* start = sectionNames.Find(sections, segments.Lookup(segment->First())->StartSect);
-  if (start) FindMaterialNumber(sections.Lookup(start->First())->Material, iMAT);
+  if (const S2kFrameSectionRow* start = sectionNames.Find(sections, segment->StartSect))
+    FindMaterialNumber(start->Material, iMAT);
 }
 
 int CS2kConverter::FindFrameAngle(const std::string& name, S2kFrameLocalAxes1Row& row) {
-  const auto& table = sourceModel->FrameLocalAxes1;
-  const auto* hit = frameAngleNames.Find(table, name);
-  if (!hit) return 0;
-  row = *table.Lookup(hit->First());
+  const S2kFrameLocalAxes1Row* found = frameAngleNames.Find(sourceModel->FrameLocalAxes1, name);
+  if (!found) return 0;
+  row = *found;
   if (row.AdvanceAxes) AdjustAngleForAdvancedAxes(name, row.Angle);
   return 1;
 }
 
 // The advanced axes shrink to one rotation about the member's axis.
 void CS2kConverter::AdjustAngleForAdvancedAxes(const std::string& name, double& angle) {
-  const auto& table = sourceModel->FrameLocalAxes2;
-  const auto* hit = frameAdvancedAxesNames.Find(table, name);
-  if (!hit) return;
-  const S2kFrameLocalAxes2Row& row = *table.Lookup(hit->First());
+  const S2kFrameLocalAxes2Row* found = frameAdvancedAxesNames.Find(sourceModel->FrameLocalAxes2, name);
+  if (!found) return;
+  const S2kFrameLocalAxes2Row& row = *found;
   if (row.PlOption1 == "Coord Dir") {
     const std::string& d = (row.CoordDir1 == "X" || row.CoordDir1 == "-X") ? row.CoordDir2 : row.CoordDir1;
     if (row.LocalPlan == "12") {
@@ -103,10 +101,14 @@ void CS2kConverter::AdjustAngleForAdvancedAxes(const std::string& name, double& 
   }
 }
 
-// Until the joint table lands, every joint lies at the origin.
-int CS2kConverter::FindJointGlobalCoordinates(const std::string&, double& x, double& y, double& z) {
+int CS2kConverter::FindJointGlobalCoordinates(const std::string& name, double& x, double& y, double& z) {
   x = y = z = 0;
-  return 0;
+  const S2kJointCoordinatesRow* row = jointCoordinateNames.Find(sourceModel->JointCoordinates, name);
+  if (!row) return 0;
+  x = row->GlobalX;
+  y = row->GlobalY;
+  z = row->GlobalZ;
+  return 1;
 }
 
 void CS2kConverter::NoteElementName(const std::string& name) {
@@ -144,7 +146,7 @@ void CS2kConverter::ResolveNodeNumber(const std::string& name, int& number) {
   if (targetModel->jointsKeepNumbers)
     number = ParseInt(name);
   else
-    number = NodeNumberOf(name);
+    targetModel->LookupNodeNumber(name, number);
 }
 
 // Two or more kinds of element, or one name that is not a number, renumber

@@ -80,12 +80,12 @@ int CS2kConverter::ConvertFrameReleases() {
     };
     S2kFramePartialFixRow fixity;
     if (!fixities.Empty()) {
-      const auto* hit = partialFixFrames.Find(fixities, row.Frame);
-      if (!hit) {
+      const S2kFramePartialFixRow* found = partialFixFrames.Find(fixities, row.Frame);
+      if (!found) {
         stopped = true;
         return;
       }
-      fixity = *fixities.Lookup(hit->First());
+      fixity = *found;
     }
     TvtFrameRlsRec rec;
     rec.ELEM_LIST = row.Frame;

@@ -259,6 +259,7 @@ class CS2kConverter {
   void WritePlateLines(int frames, int areas);
   void WriteSolidLines(int frames, int areas, int solids);
 
+  CNameIndex<S2kJointCoordinatesRow> jointCoordinateNames{&S2kJointCoordinatesRow::Joint};
   CNameIndex<S2kFrameLocalAxes1Row> frameAngleNames{&S2kFrameLocalAxes1Row::Frame};
   CNameIndex<S2kFrameLocalAxes2Row> frameAdvancedAxesNames{&S2kFrameLocalAxes2Row::Frame};
   /// Kind, a zero character and name, to the first number in walk order.
