@@ -15,6 +15,11 @@ void ReadVariation(const std::string& word, int& variation) {
 
 }  // namespace
 
+int CS2kConverter::FindNonprismaticKey(const std::string& name) {
+  const auto* hit = nonprismaticNames.Find(sourceModel->FrameNonprismatic, name);
+  return hit ? hit->First() : 0;
+}
+
 int CS2kConverter::ConvertNonprismaticSection(const S2kFrameSectionRow& section, TvtSectionRec& rec) {
   const CKeyedTable<S2kFrameNonprismaticRow>& segments = sourceModel->FrameNonprismatic;
   if (segments.Empty()) return 1;

@@ -6,19 +6,19 @@
 
 namespace {
 
-struct ShapeCode {
+struct WordCode {
   std::string_view word;
   const char* code;
 };
 
-constexpr ShapeCode kShapeCodes[] = {
+constexpr WordCode kWordCodes[] = {
     {"I/Wide Flange", "H"}, {"Channel", "C"},     {"Tee", "T"},         {"Angle", "L"},
     {"Double Angle", "2L"}, {"Box/Tube", "B"},    {"Pipe", "P"},        {"Rectangular", "SB"},
     {"Circle", "SR"},       {"General", "SB"},
 };
 
 // Substrings of the cardinal point, tested in this order: "11 (" is caught by "1 (".
-constexpr ShapeCode kCardinalPointCodes[] = {
+constexpr WordCode kCardinalPointCodes[] = {
     {"1 (", "RB"}, {"2", "CB"}, {"3", "LB"}, {"4", "RC"}, {"5", "CC"},  {"6", "LC"},
     {"7", "RT"},   {"8", "CT"}, {"9", "LT"}, {"10", "CC"}, {"11", "CC"},
 };
@@ -50,7 +50,7 @@ void FillSectionProperties(const S2kFrameSectionRow& row, TvtSectionRec& rec, in
 
 std::string CS2kConverter::MapSectionShape(const std::string& shape, int& BLT) {
   BLT = 2;
-  for (const ShapeCode& entry : kShapeCodes)
+  for (const WordCode& entry : kWordCodes)
     if (shape == entry.word) return entry.code;
   return "";
 }
@@ -74,7 +74,7 @@ int CS2kConverter::FindSectionOffsetCode(const std::string& name, std::string& o
   const auto* insertion = insertionFrames.Find(insertions, frame);
   if (!insertion) return 0;
   const std::string& cardinalPoint = insertions.Lookup(insertion->First())->CardinalPt;
-  for (const ShapeCode& entry : kCardinalPointCodes) {
+  for (const WordCode& entry : kCardinalPointCodes) {
     if (cardinalPoint.find(entry.word) != std::string::npos) {
       offset = entry.code;
       break;

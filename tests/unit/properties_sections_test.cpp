@@ -141,6 +141,11 @@ TEST(ConvertNonprismaticSection, EndsFlagsAndDuplicateNames) {
   segments.SetAt(3, Segment("NOEND", 1, 1, "X", "NONE"));
   segments.SetAt(4, Segment("HALF", 2, 1, "A", "B"));
 
+  EXPECT_EQ(2, engine.FindFrameSectionKey("A")) << "the lookup by name stops at the first in walk order";
+  EXPECT_EQ(0, engine.FindFrameSectionKey("Z"));
+  EXPECT_EQ(4, engine.FindNonprismaticKey("HALF"));
+  EXPECT_EQ(0, engine.FindNonprismaticKey("A"));
+
   TvtSectionRec rec;
   ASSERT_EQ(1, engine.ConvertNonprismaticSection(Section("T", "Nonprismatic", 0), rec));
   EXPECT_EQ("2L", rec.SHAPE);
