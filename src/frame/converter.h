@@ -97,27 +97,82 @@ class CS2kConverter {
   // ---- geometry/units.cpp -----------------------------------------------------
   int ParseCoordinateSystem();
   int ParseProgramControl();
+  /// 9.806 in the model's length unit; 9.806 for a unit it doesn't know.
   double GravityInModelUnits() const;
+  /// A temperature of the model's unit in Celsius; 0 for an unknown unit.
   double ToCelsius(double value) const;
+
+  // ---- geometry/geometry_parsers.cpp -------------------------------------------
+  int ParseJointCoordinates();     // 333
+  int ParseJointMasses();          // 331
+  int ParseJointRestraints();      // 341
+  int ParseJointConstraints();     // 332
+  int ParseConstraintBeam();       // 211
+  int ParseConstraintBody();       // 212
+  int ParseConstraintDiaphragm();  // 213
+  int ParseConstraintEqual();      // 214
+  int ParseConstraintLine();       // 215
+  int ParseConstraintPlate();      // 217
+  int ParseConstraintRod();        // 218
+  int ParseConstraintWeld();       // 219
+  int ParseJointLocalAxes1();      // 336
+  int ParseJointLocalAxes2();      // 337
 
   // ---- geometry/joints.cpp ------------------------------------------------------
   int ConvertJoints();
   int BuildJointNumberMap();
   int WriteNodes();
-  /// The node number of a joint name, as every writer takes it.
+  /// The node number of a joint name, as every writer takes it: under
+  /// renumbering 0 for a name that is no joint's, else atoi of the name.
   int NodeNumberOf(const std::string& name) const;
+  /// The first row of \p joint in the walk of the joint table, or nullptr.
+  const S2kJointCoordinatesRow* FindJointRow(const std::string& joint) const;
+  /// The global coordinates of \p joint; zeros and 0 when there is none.
+  int FindJointGlobalCoordinates(const std::string& joint, double& x, double& y, double& z) const;
 
   // ---- geometry/restraints.cpp, geometry/constraints.cpp -----------------------
   int ConvertRestraints();
   int WriteConstraints();
   int ConvertConstraints();
   int WriteRigidLinks();
+  /// How a family picks its master: the first member, or by added masses.
+  enum class ConstraintMasterKind { FirstMember = 0, AlongAxis = 1, ByMass = 2 };
+  /// The master and the slaves of constraint \p name. \returns 1 when a
+  /// rigid link can be made, 0 for fewer than two members.
+  int CollectConstraintJoints(const std::string& name, ConstraintMasterKind kind, std::string& outMaster,
+                              std::string& outSlaves);
+  void ConvertBeamConstraint(const std::string& name, int& counter);
+  void ConvertBodyConstraint(const std::string& name, int& counter);
+  void ConvertDiaphragmConstraint(const std::string& name, int& counter);
+  void ConvertEqualConstraint(const std::string& name, int& counter);
+  void ConvertLineConstraint(const std::string& name, int& counter);
+  void ConvertLocalConstraint(const std::string& name, int& counter);
+  void ConvertPlateConstraint(const std::string& name, int& counter);
+  void ConvertRodConstraint(const std::string& name, int& counter);
+  void ConvertWeldConstraint(const std::string& name, int& counter);
+  /// Members of each constraint in table 332, and the walk position of the
+  /// first mass row of each joint; filled while ConvertConstraints runs.
+  std::unordered_map<std::string, std::vector<std::string>> constraintMembers;
+  std::unordered_map<std::string, std::size_t> firstMassRowOf;
 
   // ---- geometry/local_axes.cpp --------------------------------------------------
   int ConvertJointLocalAxes();
   int WriteLocalAxes();
+  /// Adds a rotation record M = Rz Ry Rx for angles in degrees.
+  void RotationFromAngles(const std::string& joint, double x, double y, double z);
+  /// 1 when \p joint has a rotation record.
+  int HasJointLocalAxes(const std::string& joint) const;
+  /// Turns (a, b, c) from the joint's local axes to global axes, or back;
+  /// results below 1e-5 in size become 0. A joint without local axes keeps
+  /// the vector. \returns 1, or 0 when the joint has no record while others do.
+  int LocalToGlobal(const std::string& joint, double& a, double& b, double& c) const;
+  int GlobalToLocal(const std::string& joint, double& a, double& b, double& c) const;
+  /// The advanced form of table 337 for \p rec, when the joint has a row.
+  void ApplyAdvancedLocalAxes(TvtLocalAxisRec& rec);
 
-  // ---- geometry/masses.cpp ------------------------------------------------------
+  // ---- geometry/masses.cpp, geometry/mass_parsers.cpp ---------------------------
+  int ParseFrameMasses();
+  int ParseAreaMasses();
   int ConvertJointMasses();
   int ConvertFrameMasses();
   int ConvertAreaMasses();
@@ -173,6 +228,21 @@ class CS2kConverter {
   int ConvertFrames();
   int WriteElements();
 
+  // ---- elements/element_parsers.cpp ------------------------------------------------
+  int ParseAreaSectionAssign();  // 125
+  int ParseAreaSection();        // 126
+  int ParseConnectivityArea();   // 201
+  int ParseConnectivityFrame();  // 202
+  int ParseConnectivitySolid();  // 204
+  int ParseFrameLocalAxes1();    // 239
+  int ParseFrameLocalAxes2();    // 240
+  int ParseFrameOffset();        // 243
+  int ParseFrameRelease();       // 250
+  int ParseFramePartialFix();    // 251
+  int ParseSolidPropAssign();    // 489
+  int ParseSolidProp();          // 490
+  int ParseSolidSummary();       // 505
+
   // ---- elements/areas.cpp -------------------------------------------------------
   int ConvertAreas();
   int ConvertSolids();
@@ -183,9 +253,15 @@ class CS2kConverter {
   int WriteOffsets();
   int WriteFrameReleases();
 
-  // ---- elements/springs.cpp -----------------------------------------------------
+  // ---- elements/springs.cpp, elements/spring_parsers.cpp -------------------------
+  int ParseJointSprings();
+  int ParseJointCoupledSprings();
+  int ParseFrameSprings();
+  int ParseAreaSprings();
   int ConvertJointSprings();
   int ConvertCoupledSprings();
+  /// Lumps line springs onto joints: \p mode 1 frames, 2 areas.
+  int ConvertLineSprings(int mode);
   int ConvertFrameSprings();
   int ConvertAreaSprings();
   int WriteSprings();

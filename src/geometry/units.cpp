@@ -1,7 +1,69 @@
 // Units (table 108), the coordinate system (table 104), gravity and temperature.
 #include "frame/converter.h"
 
-int CS2kConverter::ParseCoordinateSystem() { return 1; }
-int CS2kConverter::ParseProgramControl() { return 1; }
-double CS2kConverter::GravityInModelUnits() const { return 9.806; }
-double CS2kConverter::ToCelsius(double) const { return 0; }
+namespace {
+
+using System = S2kCoordinateSystemRec;
+// Name= is read on its own, before the test of Type=.
+constexpr S2kField<System> kCoordinateSystemKeys[] = {
+    NumberKey("X=", &System::X),           NumberKey("Y=", &System::Y),
+    NumberKey("Z=", &System::Z),           NumberKey("AboutZ=", &System::AboutZ),
+    NumberKey("AboutY=", &System::AboutY), NumberKey("AboutX=", &System::AboutX),
+};
+
+}  // namespace
+
+// The first row only: joints are not moved by the system's origin or angles.
+int CS2kConverter::ParseCoordinateSystem() {
+  S2kCoordinateSystemRec system;
+  if (!rowRows.empty()) {
+    const std::string& rowText = rowRows[0];
+    ReadField(rowText, TextKey("Name=", &System::Name), system);
+    std::vector<std::string> type;
+    if (ReadStringList(rowText, "Type=", type) && !type.empty()) {
+      if (type[0] != "Cartesian") {
+        ShowMessage("IDS_S2KV8_NODE_NOT_Cylindrical");
+        return 0;
+      }
+      system.Type = type[0];
+    }
+    ReadFields(rowText, kCoordinateSystemKeys, system);
+  }
+  sourceModel->CoordinateSystem = system;
+  return 1;
+}
+
+// The first row's CurrUnits= gives force, length and temperature.
+int CS2kConverter::ParseProgramControl() {
+  std::string units[3] = {"Ton", "m", "C"};
+  std::vector<std::string> list;
+  if (!rowRows.empty() && ReadStringList(rowRows[0], "CurrUnits=", list))
+    for (std::size_t i = 0; i < list.size() && i < 3; ++i) units[i] = list[i];
+  sourceModel->ForceUnit = units[0];
+  sourceModel->LengthUnit = units[1];
+  sourceModel->TemperatureUnit = units[2];
+  return 1;
+}
+
+// Centimetres and millimetres scale the wrong way round; the target reads
+// the value as it stands.
+double CS2kConverter::GravityInModelUnits() const {
+  struct LengthFactor {
+    const char* unit;
+    double factor;
+  };
+  static constexpr LengthFactor kFactors[] = {{"M", 1}, {"CM", 0.01}, {"MM", 0.001}, {"IN", 39.3701}, {"FT", 3.2808}};
+  std::string length = sourceModel->LengthUnit;
+  UpperCase(length);
+  for (const LengthFactor& entry : kFactors)
+    if (length == entry.unit) return 9.806 * entry.factor;
+  return 9.806;
+}
+
+double CS2kConverter::ToCelsius(double value) const {
+  std::string unit = sourceModel->TemperatureUnit;
+  UpperCase(unit);
+  if (unit == "C") return value;
+  if (unit == "F") return (value - 32) * 5 / 9;
+  return 0;
+}
