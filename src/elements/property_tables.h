@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "s2k/keyed_table.h"
+#include "s2k/name_index.h"
 
 // ---- source rows ---------------------------------------------------------------
 
@@ -175,12 +176,12 @@ struct PropertyRunFlags {
 
 // ---- name lookups -------------------------------------------------------------------
 
-/// The keys a linear walk would stop at, for every name of one text field of
-/// a table: all rows of that name in walk order, and the last row of the
-/// walk. Built on first use; rebuilt when the row count of the table changes
-/// (tables only grow while the file is read, and are looked up after).
+/// Beside the first match of CNameIndex, what the walks of these tables also
+/// see: every row of a name in walk order, and the row a walk without a match
+/// ends on. Built on first use; rebuilt when the row count of the table
+/// changes (tables only grow while the file is read, and are looked up after).
 template <class Row>
-class CNameIndex {
+class CNameRowsIndex {
  public:
   /// The keys of one name, in walk order; never empty.
   struct Hit {
@@ -189,7 +190,7 @@ class CNameIndex {
     int Last() const { return keys.back(); }
   };
 
-  explicit CNameIndex(std::string Row::*field) : field_(field) {}
+  explicit CNameRowsIndex(std::string Row::*field) : field_(field) {}
 
   /// The rows named \p name, or nullptr when there are none.
   const Hit* Find(const CKeyedTable<Row>& table, const std::string& name) {

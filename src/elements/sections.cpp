@@ -71,9 +71,9 @@ int CS2kConverter::FindSectionOffsetCode(const std::string& name, std::string& o
   const CKeyedTable<S2kFrameInsertionRow>& insertions = sourceModel->FrameInsertions;
   if (insertions.Empty()) return 1;
   offset.clear();
-  const auto* insertion = insertionFrames.Find(insertions, frame);
+  const S2kFrameInsertionRow* insertion = insertionFrames.Find(insertions, frame);
   if (!insertion) return 0;
-  const std::string& cardinalPoint = insertions.Lookup(insertion->First())->CardinalPt;
+  const std::string& cardinalPoint = insertion->CardinalPt;
   for (const WordCode& entry : kCardinalPointCodes) {
     if (cardinalPoint.find(entry.word) != std::string::npos) {
       offset = entry.code;
