@@ -5,8 +5,8 @@
 int CS2kConverter::FindMaterialNumber(const std::string& name, int& number) {
   const CKeyedTable<S2kMaterial1Row>& table = sourceModel->Material1;
   if (table.Empty()) return 0;
-  if (const auto* hit = materialNames.Find(table, name)) {
-    number = hit->First();
+  if (const int key = materialNames.FindKey(table, name)) {
+    number = key;
     return 1;
   }
   // The walk ran to its end without a match.

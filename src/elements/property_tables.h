@@ -174,56 +174,6 @@ struct PropertyRunFlags {
   int SectionNotTranslated = 0;
 };
 
-// ---- name lookups -------------------------------------------------------------------
-
-/// Beside the first match of CNameIndex, what the walks of these tables also
-/// see: every row of a name in walk order, and the row a walk without a match
-/// ends on. Built on first use; rebuilt when the row count of the table
-/// changes (tables only grow while the file is read, and are looked up after).
-template <class Row>
-class CNameRowsIndex {
- public:
-  /// The keys of one name, in walk order; never empty.
-  struct Hit {
-    std::vector<int> keys;
-    int First() const { return keys.front(); }
-    int Last() const { return keys.back(); }
-  };
-
-  explicit CNameRowsIndex(std::string Row::*field) : field_(field) {}
-
-  /// The rows named \p name, or nullptr when there are none.
-  const Hit* Find(const CKeyedTable<Row>& table, const std::string& name) {
-    Refresh(table);
-    auto it = hits_.find(name);
-    return it == hits_.end() ? nullptr : &it->second;
-  }
-  /// The key a walk ends on; 0 for an empty table.
-  int LastWalked(const CKeyedTable<Row>& table) {
-    Refresh(table);
-    return lastWalked_;
-  }
-
- private:
-  void Refresh(const CKeyedTable<Row>& table) {
-    if (table_ == &table && count_ == table.Count()) return;
-    table_ = &table;
-    count_ = table.Count();
-    hits_.clear();
-    lastWalked_ = 0;
-    table.Walk([&](int key, const Row& row) {
-      hits_[row.*field_].keys.push_back(key);
-      lastWalked_ = key;
-    });
-  }
-
-  std::string Row::*field_;
-  const CKeyedTable<Row>* table_ = nullptr;
-  int count_ = -1;
-  int lastWalked_ = 0;
-  std::unordered_map<std::string, Hit> hits_;
-};
-
 /// D1 to D6 of a section by its shape code, into \p D. With \p pairedForm the
 /// double shapes take their own order, as plain sections do; the ends of a
 /// taper don't.

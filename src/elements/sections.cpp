@@ -56,16 +56,15 @@ std::string CS2kConverter::MapSectionShape(const std::string& shape, int& BLT) {
 }
 
 int CS2kConverter::FindFrameSectionKey(const std::string& name) {
-  const auto* hit = sectionNames.Find(sourceModel->FrameSections, name);
-  return hit ? hit->First() : 0;
+  return sectionNames.FindKey(sourceModel->FrameSections, name);
 }
 
 int CS2kConverter::FindSectionOffsetCode(const std::string& name, std::string& offset) {
   const CKeyedTable<S2kFrameSectionAssignRow>& assigns = sourceModel->FrameSectionAssigns;
   if (assigns.Empty()) return 1;
   // A section that no frame uses takes the frame of the walk's last row.
-  const auto* assign = sectionAssignNames.Find(assigns, name);
-  const int assignKey = assign ? assign->First() : sectionAssignNames.LastWalked(assigns);
+  int assignKey = sectionAssignNames.FindKey(assigns, name);
+  if (!assignKey) assignKey = sectionAssignNames.LastWalked(assigns);
   const std::string& frame = assigns.Lookup(assignKey)->Frame;
 
   const CKeyedTable<S2kFrameInsertionRow>& insertions = sourceModel->FrameInsertions;

@@ -295,12 +295,12 @@ class CS2kConverter {
   CKeyedTable<TvtElementMapEntry> elementNumberMap;
 
   // ---- name lookups of the property tables, same first match as a walk ------------
-  CNameRowsIndex<S2kMaterial1Row> materialNames{&S2kMaterial1Row::Material};
+  CNameIndex<S2kMaterial1Row> materialNames{&S2kMaterial1Row::Material};
   CNameIndex<S2kMaterial2Row> orthotropicNames{&S2kMaterial2Row::Material};
-  CNameRowsIndex<S2kFrameSectionRow> sectionNames{&S2kFrameSectionRow::SectionName};
-  CNameRowsIndex<S2kFrameSectionAssignRow> sectionAssignNames{&S2kFrameSectionAssignRow::AnalSect};
+  CNameIndex<S2kFrameSectionRow> sectionNames{&S2kFrameSectionRow::SectionName};
+  CNameIndex<S2kFrameSectionAssignRow> sectionAssignNames{&S2kFrameSectionAssignRow::AnalSect};
   CNameIndex<S2kFrameInsertionRow> insertionFrames{&S2kFrameInsertionRow::Frame};
-  CNameRowsIndex<S2kFrameNonprismaticRow> nonprismaticNames{&S2kFrameNonprismaticRow::SectionName};
+  CNameIndex<S2kFrameNonprismaticRow> nonprismaticNames{&S2kFrameNonprismaticRow::SectionName};
 
   // ---- run flags, cleared by ResetConversion --------------------------------------
   GeometryRunFlags geometryFlags;
