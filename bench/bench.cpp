@@ -55,7 +55,7 @@ Model WriteModel(const std::filesystem::path& path, int n, bool named) {
          "   Material=STEEL   Type=Isotropic   DesignType=Steel   UnitMass=7.8   UnitWeight=76.9   E=200000000   "
          "U=0.3   A=0.0000117\n\n";
   model.rows += 2;
-  out << "TABLE:  \"FRAME SECTION PROPERTIES 01 - GENERAL\"\n"
+  out << "TABLE:  \"FRAME SECTION PROPERTIES 1 - GENERAL\"\n"
          "   SectionName=COL   Material=CONC   Shape=Rectangular   t3=0.5   t2=0.5   Area=0.25   TorsConst=0.0088   "
          "I33=0.0052   I22=0.0052   AS2=0.208   AS3=0.208\n"
          "   SectionName=BEAM   Material=STEEL   Shape=\"I/Wide Flange\"   t3=0.4   t2=0.2   tf=0.015   tw=0.01   "

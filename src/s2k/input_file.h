@@ -26,7 +26,11 @@ class S2kInputFile {
   static int CountLines(const std::string& path);
 
  private:
-  static constexpr int kMaxRead = 499;
+  bool Fill();
+
+  static constexpr std::size_t kMaxRead = 499;
   std::FILE* file_ = nullptr;
   std::string raw_;
+  std::string buffer_;
+  std::size_t pos_ = 0, len_ = 0;
 };

@@ -2,8 +2,8 @@
 // in the walk order of a hash of 17, 1001 or 10001 buckets.
 #pragma once
 
-#include <algorithm>
 #include <cstdint>
+#include <deque>
 #include <unordered_map>
 #include <utility>
 #include <vector>
@@ -81,20 +81,19 @@ class CKeyedTable {
   }
   const std::vector<std::size_t>& WalkOrder() const {
     if (!walkValid_) {
+      // Buckets in order; within a bucket the newest entry heads the chain.
+      std::vector<std::size_t> start(static_cast<std::size_t>(size_) + 1, 0);
+      for (const auto& entry : entries_) ++start[Bucket(entry.first) + 1];
+      for (std::size_t b = 1; b < start.size(); ++b) start[b] += start[b - 1];
       walk_.resize(entries_.size());
-      for (std::size_t i = 0; i < walk_.size(); ++i) walk_[i] = i;
-      // Within a bucket the newest entry heads the chain.
-      std::sort(walk_.begin(), walk_.end(), [&](std::size_t a, std::size_t b) {
-        std::uint32_t ba = Bucket(entries_[a].first), bb = Bucket(entries_[b].first);
-        return ba != bb ? ba < bb : a > b;
-      });
+      for (std::size_t i = entries_.size(); i-- > 0;) walk_[start[Bucket(entries_[i].first)]++] = i;
       walkValid_ = true;
     }
     return walk_;
   }
 
   int size_ = 17;
-  std::vector<std::pair<int, Rec>> entries_;
+  std::deque<std::pair<int, Rec>> entries_;
   std::unordered_map<int, std::size_t> index_;
   mutable std::vector<std::size_t> walk_;
   mutable bool walkValid_ = false;
