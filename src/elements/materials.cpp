@@ -1,5 +1,100 @@
-// Materials to *MATERIAL.
+// Materials (tables 381, 382) to *MATERIAL.
 #include "frame/converter.h"
+#include "s2k/keys.h"
 
-int CS2kConverter::ConvertMaterials() { return 1; }
-int CS2kConverter::WriteMaterials() { return 1; }
+int CS2kConverter::FindMaterialNumber(const std::string& name, int& number) {
+  const CKeyedTable<S2kMaterial1Row>& table = sourceModel->Material1;
+  if (table.Empty()) return 0;
+  if (const auto* hit = materialNames.Hits(table, name)) {
+    number = hit->First();
+    return 1;
+  }
+  // The walk ran to its end without a match.
+  number = materialNames.LastWalked(table);
+  return 0;
+}
+
+int CS2kConverter::ConvertOrthotropicMaterial(const std::string& name, const std::string& type, double density,
+                                              int key) {
+  const CKeyedTable<S2kMaterial2Row>& table = sourceModel->Material2;
+  if (table.Empty()) return 0;
+  const auto* hit = orthotropicNames.Hits(table, name);
+  if (!hit) return 0;
+  const S2kMaterial2Row& row = *table.Lookup(hit->First());
+  // The target's y and z are the source's 3 and 2, in every family.
+  TvtMaterialRec rec;
+  rec.kind = 2;
+  rec.TYPE = type;
+  rec.MNAME = row.Material;
+  rec.DEN = density;
+  rec.Ex = row.E1;
+  rec.Ey = row.E3;
+  rec.Ez = row.E2;
+  rec.Tx = row.A1;
+  rec.Ty = row.A3;
+  rec.Tz = row.A2;
+  rec.Sxy = row.G13;
+  rec.Sxz = row.G12;
+  rec.Syz = row.G23;
+  rec.Pxy = row.U13;
+  rec.Pxz = row.U12;
+  rec.Pyz = row.U23;
+  return targetModel->Materials.SetAt(key, rec);
+}
+
+int CS2kConverter::ConvertMaterials() {
+  const CKeyedTable<S2kMaterial1Row>& table = sourceModel->Material1;
+  if (table.Empty()) return 1;
+  std::string temperatureUnit = sourceModel->TemperatureUnit;
+  UpperCase(temperatureUnit);
+  int ok = 1;
+  table.Walk([&](int key, const S2kMaterial1Row& row) {
+    if (!ok) return;
+    TvtMaterialRec rec;
+    if (row.DesignType == "Concrete")
+      rec.TYPE = "CONC";
+    else if (row.DesignType == "Steel")
+      rec.TYPE = "STEEL";
+    rec.DEN = row.UnitWeight;
+    if (row.Type == "Isotropic") {
+      rec.MNAME = row.Material;
+      rec.ELAST = row.E;
+      rec.POISN = row.U;
+      if (temperatureUnit == "C")
+        rec.THERMAL = row.A;
+      else if (temperatureUnit == "F")
+        rec.THERMAL = row.A * 9.0 / 5.0;
+      ok = targetModel->Materials.SetAt(key, rec);
+      return;
+    }
+    ConvertOrthotropicMaterial(row.Material, rec.TYPE, rec.DEN, key);
+    if (row.Type == "Anisotropic") propertyFlags.MaterialAnisotropic = 1;
+  });
+  return ok;
+}
+
+int CS2kConverter::WriteMaterials() {
+  const CKeyedTable<TvtMaterialRec>& table = targetModel->Materials;
+  if (table.Empty()) return 1;
+  if (propertyFlags.MaterialAnisotropic) ShowMessage("IDS_S2KV8_MATL_ANIS_Not_Convert");
+  WriteText("%s\n", "*MATERIAL    ; Material\n");
+  WriteText("; iMAT, TYPE, MNAME, SPHEAT, HEATCO, [DATA1]               ; STEEL, CONC, USER\n");
+  WriteText("; iMAT, TYPE, MNAME, SPHEAT, HEATCO, [DATA2], [DATA2]      ; SRC\n");
+  WriteText("; [DATA1] : 1, DB, NAME\n");
+  WriteText("; [DATA1] : 2, ELAST, POISN, THERMAL, DEN\n");
+  WriteText("; [DATA1] : 3, Ex, Ey, Ez, Tx, Ty, Tz, Sxy, Sxz, Syz, Pxy, Pxz, Pyz, DEN  ; Orthotropic\n");
+  WriteText("; [DATA2] : 1, DB, NAME or 2, ELAST, POISN, THERMAL, DEN\n");
+  table.Walk([&](int iMAT, const TvtMaterialRec& rec) {
+    if (rec.kind == 1) {
+      WriteText("\t%d, %5s, %5s, %5g, %5g, 2, %5g, %5g, %5g, %5g\n", iMAT, rec.TYPE.c_str(), rec.MNAME.c_str(),
+                rec.SPHEAT, rec.HEATCO, rec.ELAST, rec.POISN, rec.THERMAL, rec.DEN);
+    } else {
+      WriteText(
+          "\t%d, %5s, %5s, %5g, %5g, 3, %5g, %5g, %5g, %5g, %5g, %5g, %5g, %5g, %5g, %5g, %5g, %5g, %5g\n", iMAT,
+          rec.TYPE.c_str(), rec.MNAME.c_str(), rec.SPHEAT, rec.HEATCO, rec.Ex, rec.Ey, rec.Ez, rec.Tx, rec.Ty,
+          rec.Tz, rec.Sxy, rec.Sxz, rec.Syz, rec.Pxy, rec.Pxz, rec.Pyz, rec.DEN);
+    }
+  });
+  WriteText("\n");
+  return 1;
+}

@@ -1,7 +1,71 @@
 // The row parsers of the spring tables.
 #include "s2k/table_parsers.h"
 
+namespace {
+
+constexpr S2kField<S2kJointSpringRow> kJointSpringKeys[] = {
+    TextKey("Joint=", &S2kJointSpringRow::Joint),
+    TextKey("CoordSys=", &S2kJointSpringRow::CoordSys),
+    NumberKey("U1=", &S2kJointSpringRow::U1),
+    NumberKey("U2=", &S2kJointSpringRow::U2),
+    NumberKey("U3=", &S2kJointSpringRow::U3),
+    NumberKey("R1=", &S2kJointSpringRow::R1),
+    NumberKey("R2=", &S2kJointSpringRow::R2),
+    NumberKey("R3=", &S2kJointSpringRow::R3),
+};
+
+// In the order of the triangle's places, column by column.
+constexpr S2kField<S2kJointCoupledSpringRow> kJointCoupledSpringKeys[] = {
+    TextKey("Joint=", &S2kJointCoupledSpringRow::Joint),
+    TextKey("CoordSys=", &S2kJointCoupledSpringRow::CoordSys),
+    NumberKey("U1=", &S2kJointCoupledSpringRow::U1),
+    NumberKey("U1U2=", &S2kJointCoupledSpringRow::U1U2),
+    NumberKey("U2=", &S2kJointCoupledSpringRow::U2),
+    NumberKey("U1U3=", &S2kJointCoupledSpringRow::U1U3),
+    NumberKey("U2U3=", &S2kJointCoupledSpringRow::U2U3),
+    NumberKey("U3=", &S2kJointCoupledSpringRow::U3),
+    NumberKey("U1R1=", &S2kJointCoupledSpringRow::U1R1),
+    NumberKey("U2R1=", &S2kJointCoupledSpringRow::U2R1),
+    NumberKey("U3R1=", &S2kJointCoupledSpringRow::U3R1),
+    NumberKey("R1=", &S2kJointCoupledSpringRow::R1),
+    NumberKey("U1R2=", &S2kJointCoupledSpringRow::U1R2),
+    NumberKey("U2R2=", &S2kJointCoupledSpringRow::U2R2),
+    NumberKey("U3R2=", &S2kJointCoupledSpringRow::U3R2),
+    NumberKey("R2=", &S2kJointCoupledSpringRow::R2),
+    NumberKey("U1R3=", &S2kJointCoupledSpringRow::U1R3),
+    NumberKey("U2R3=", &S2kJointCoupledSpringRow::U2R3),
+    NumberKey("U3R3=", &S2kJointCoupledSpringRow::U3R3),
+    NumberKey("R3=", &S2kJointCoupledSpringRow::R3),
+};
+
+constexpr S2kField<S2kFrameSpringRow> kFrameSpringKeys[] = {
+    TextKey("Frame=", &S2kFrameSpringRow::Frame),
+    TextKey("Dir=", &S2kFrameSpringRow::Dir),
+    NumberKey("Stiffness=", &S2kFrameSpringRow::Stiffness),
+};
+
+constexpr S2kField<S2kAreaSpringRow> kAreaSpringKeys[] = {
+    TextKey("Area=", &S2kAreaSpringRow::Area),
+    TextKey("Face=", &S2kAreaSpringRow::Face),
+    TextKey("Dir=", &S2kAreaSpringRow::Dir),
+    NumberKey("Stiffness=", &S2kAreaSpringRow::Stiffness),
+};
+
+}  // namespace
+
+int CS2kConverter::ParseJointSprings() { return ParseRows(kJointSpringKeys, sourceModel->JointSprings); }
+int CS2kConverter::ParseJointCoupledSprings() {
+  return ParseRows(kJointCoupledSpringKeys, sourceModel->JointCoupledSprings);
+}
+int CS2kConverter::ParseFrameSprings() { return ParseRows(kFrameSpringKeys, sourceModel->FrameSprings); }
+int CS2kConverter::ParseAreaSprings() { return ParseRows(kAreaSpringKeys, sourceModel->AreaSprings); }
+
 const std::vector<S2kTableParser>& SpringTableParsers() {
-  static const std::vector<S2kTableParser> parsers = {};
+  static const std::vector<S2kTableParser> parsers = {
+      {127, &CS2kConverter::ParseAreaSprings},
+      {258, &CS2kConverter::ParseFrameSprings},
+      {342, &CS2kConverter::ParseJointSprings},
+      {343, &CS2kConverter::ParseJointCoupledSprings},
+  };
   return parsers;
 }

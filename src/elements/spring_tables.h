@@ -2,16 +2,110 @@
 #pragma once
 
 #include <string>
+#include <unordered_map>
 
 #include "s2k/keyed_table.h"
 
+/// Table 342: a joint's six uncoupled stiffnesses.
+struct S2kJointSpringRow {
+  std::string Joint;
+  std::string CoordSys;
+  double U1 = 0, U2 = 0, U3 = 0, R1 = 0, R2 = 0, R3 = 0;
+};
+
+/// Table 343: the 18 terms of a coupled joint spring.
+struct S2kJointCoupledSpringRow {
+  std::string Joint;
+  std::string CoordSys;
+  double U1 = 0, U1U2 = 0, U2 = 0, U1U3 = 0, U2U3 = 0, U3 = 0;
+  double U1R1 = 0, U2R1 = 0, U3R1 = 0, R1 = 0;
+  double U1R2 = 0, U2R2 = 0, U3R2 = 0, R2 = 0;
+  double U1R3 = 0, U2R3 = 0, U3R3 = 0, R3 = 0;
+};
+
+/// Table 258: a line spring along a frame.
+struct S2kFrameSpringRow {
+  std::string Frame;
+  std::string Dir;
+  double Stiffness = 0;
+};
+
+/// Table 127: a spring on a face of an area.
+struct S2kAreaSpringRow {
+  std::string Area;
+  std::string Face;
+  std::string Dir;
+  double Stiffness = 0;
+};
+
+/// A row of *SPRING.
+struct TvtSpringRec {
+  std::string NODE_LIST;
+  double SDx = 0, SDy = 0, SDz = 0, SRx = 0, SRy = 0, SRz = 0;
+};
+
+/// A row of *GSPRING and its *GSPRTYPE: the upper triangle of the 6 by 6
+/// stiffness, column by column.
+struct TvtGspringRec {
+  std::string NODE_LIST;
+  std::string TYPE_NAME;
+  double Terms[21] = {};
+};
+
 /// Run flags: set in conversion, tested by the writers.
-struct SpringRunFlags {};
+struct SpringRunFlags {
+  int NodeSpringNotConverted = 0;
+  int FrameSpringsToNodes = 0;
+  int PlateSpringsToNodes = 0;
+  int PlateSpringNotConverted = 0;
+};
+
+/// The first row in walk order of each name of a source table, so that a
+/// lookup by name gives what a walk to the first match gives.
+template <class Row>
+class CFirstRowByName {
+ public:
+  explicit CFirstRowByName(std::string Row::*name) : name_(name) {}
+
+  /// \returns the first row in walk order whose name equals \p name, or nullptr.
+  const Row* Find(const CKeyedTable<Row>& table, const std::string& name) {
+    if (table_ != &table || indexedCount_ != table.Count()) {
+      keys_.clear();
+      table.Walk([&](int key, const Row& row) { keys_.try_emplace(row.*name_, key); });
+      table_ = &table;
+      indexedCount_ = table.Count();
+    }
+    auto it = keys_.find(name);
+    return it == keys_.end() ? nullptr : table.Lookup(it->second);
+  }
+
+ private:
+  std::string Row::*name_;
+  const CKeyedTable<Row>* table_ = nullptr;
+  int indexedCount_ = -1;
+  std::unordered_map<std::string, int> keys_;
+};
 
 struct S2kSpringTables {
-  void Reset() {}
+  void Reset() {
+    JointSprings.Reset(10001);
+    JointCoupledSprings.Reset(10001);
+    FrameSprings.Reset(17);
+    AreaSprings.Reset(17);
+  }
+
+  CKeyedTable<S2kJointSpringRow> JointSprings;                // 342
+  CKeyedTable<S2kJointCoupledSpringRow> JointCoupledSprings;  // 343
+  CKeyedTable<S2kFrameSpringRow> FrameSprings;                // 258
+  CKeyedTable<S2kAreaSpringRow> AreaSprings;                  // 127
 };
 
 struct TvtSpringTables {
-  void Reset() {}
+  void Reset() {
+    Springs.Reset(10001);
+    GeneralSprings.Reset(10001);
+  }
+
+  CKeyedTable<TvtSpringRec> Springs;           // *SPRING
+  CKeyedTable<TvtGspringRec> GeneralSprings;   // *GSPRING, *GSPRTYPE
 };

@@ -170,20 +170,53 @@ class CS2kConverter {
   /// The advanced form of table 337 for \p rec, when the joint has a row.
   void ApplyAdvancedLocalAxes(TvtLocalAxisRec& rec);
 
-  // ---- geometry/masses.cpp ------------------------------------------------------
+  // ---- geometry/masses.cpp, geometry/mass_parsers.cpp ---------------------------
+  int ParseFrameMasses();
+  int ParseAreaMasses();
   int ConvertJointMasses();
   int ConvertFrameMasses();
   int ConvertAreaMasses();
   int WriteNodalMasses();
 
+  // ---- elements/property_parsers.cpp: tables 234, 248, 252, 253, 257, 381, 382 ----
+  int ParseFrameInsertion();
+  int ParseFrameModifiers();
+  int ParseFrameSectionAssign();
+  int ParseFrameSection();
+  int ParseFrameNonprismatic();
+  int ParseMaterial1();
+  int ParseMaterial2();
+
   // ---- elements/materials.cpp --------------------------------------------------
   int ConvertMaterials();
   int WriteMaterials();
+  /// The number of material \p name, as a walk of table 381 finds it: the
+  /// row's key when found; else the key of the walk's last row; \p number
+  /// untouched when the table is empty. \returns 1 when found, else 0.
+  int FindMaterialNumber(const std::string& name, int& number);
+  /// Fills an orthotropic record from the first row of \p name in table 382.
+  /// \returns 0 when there is none.
+  int ConvertOrthotropicMaterial(const std::string& name, const std::string& type, double density, int key);
 
   // ---- elements/sections.cpp, elements/nonprismatic.cpp -----------------------
   int ConvertFrameSections();
   int WriteSections();
   int WriteSectionScales();
+  /// The AREA and C lines of index \p end of a built section.
+  void WriteSectionValues(const TvtSectionRec& rec, int end);
+  /// The lines of a tapered section.
+  void WriteTaperedSection(int iSEC, const TvtSectionRec& rec);
+  /// The code of a shape word; empty for a word outside the shape table.
+  /// \p BLT is set to 2.
+  static std::string MapSectionShape(const std::string& shape, int& BLT);
+  /// The key of the first row of table 253 named \p name in walk order; 0 for none.
+  int FindFrameSectionKey(const std::string& name);
+  /// Sets \p offset from the insertion point of a frame of section \p name.
+  /// \returns 0 when that frame has no insertion row (\p offset then empty).
+  int FindSectionOffsetCode(const std::string& name, std::string& offset);
+  /// Reduces a nonprismatic section to a tapered record. \returns 1 when the
+  /// record is to be inserted, 0 when the section is dropped.
+  int ConvertNonprismaticSection(const S2kFrameSectionRow& section, TvtSectionRec& rec);
 
   // ---- elements/thickness.cpp ---------------------------------------------------
   int ConvertAreaSections();
@@ -192,6 +225,21 @@ class CS2kConverter {
   // ---- elements/frames.cpp ------------------------------------------------------
   int ConvertFrames();
   int WriteElements();
+
+  // ---- elements/element_parsers.cpp ------------------------------------------------
+  int ParseAreaSectionAssign();  // 125
+  int ParseAreaSection();        // 126
+  int ParseConnectivityArea();   // 201
+  int ParseConnectivityFrame();  // 202
+  int ParseConnectivitySolid();  // 204
+  int ParseFrameLocalAxes1();    // 239
+  int ParseFrameLocalAxes2();    // 240
+  int ParseFrameOffset();        // 243
+  int ParseFrameRelease();       // 250
+  int ParseFramePartialFix();    // 251
+  int ParseSolidPropAssign();    // 489
+  int ParseSolidProp();          // 490
+  int ParseSolidSummary();       // 505
 
   // ---- elements/areas.cpp -------------------------------------------------------
   int ConvertAreas();
@@ -203,9 +251,15 @@ class CS2kConverter {
   int WriteOffsets();
   int WriteFrameReleases();
 
-  // ---- elements/springs.cpp -----------------------------------------------------
+  // ---- elements/springs.cpp, elements/spring_parsers.cpp -------------------------
+  int ParseJointSprings();
+  int ParseJointCoupledSprings();
+  int ParseFrameSprings();
+  int ParseAreaSprings();
   int ConvertJointSprings();
   int ConvertCoupledSprings();
+  /// Lumps line springs onto joints: \p mode 1 frames, 2 areas.
+  int ConvertLineSprings(int mode);
   int ConvertFrameSprings();
   int ConvertAreaSprings();
   int WriteSprings();
@@ -237,6 +291,14 @@ class CS2kConverter {
   int solidNodeCount = 8;
 
   CKeyedTable<TvtElementMapEntry> elementNumberMap;
+
+  // ---- name lookups of the property tables, same first match as a walk ------------
+  CNameIndex<S2kMaterial1Row> materialNames{&S2kMaterial1Row::Material};
+  CNameIndex<S2kMaterial2Row> orthotropicNames{&S2kMaterial2Row::Material};
+  CNameIndex<S2kFrameSectionRow> sectionNames{&S2kFrameSectionRow::SectionName};
+  CNameIndex<S2kFrameSectionAssignRow> sectionAssignNames{&S2kFrameSectionAssignRow::AnalSect};
+  CNameIndex<S2kFrameInsertionRow> insertionFrames{&S2kFrameInsertionRow::Frame};
+  CNameIndex<S2kFrameNonprismaticRow> nonprismaticNames{&S2kFrameNonprismaticRow::SectionName};
 
   // ---- run flags, cleared by ResetConversion --------------------------------------
   GeometryRunFlags geometryFlags;

@@ -1,9 +1,13 @@
 // Keyed tables, title recognition and the shared row parser.
 #include <gtest/gtest.h>
 
+#include <map>
+
 #include "frame/converter.h"
 #include "recording_ui.h"
 #include "s2k/fields.h"
+#include "s2k/table_parsers.h"
+#include "s2k/table_titles.h"
 
 namespace {
 
@@ -98,6 +102,15 @@ TEST(Recognition, FirstWordAtColumnNineThenTheFirstMemberWordAnywhere) {
        }) {
     EXPECT_EQ(c.want, engine.RecogniseTable(c.title)) << c.title;
   }
+}
+
+TEST(Recognition, EveryTableHasOneParserOrOneWarningAtMost) {
+  std::map<int, int> owners;
+  for (auto* list : {&FrameTableParsers, &StoredTableParsers, &GeometryTableParsers, &MassTableParsers,
+                     &PropertyTableParsers, &ElementTableParsers, &SpringTableParsers})
+    for (const S2kTableParser& entry : list()) ++owners[entry.tableId];
+  for (const S2kWarningTable& entry : kWarningTables) ++owners[entry.tableId];
+  for (const auto& [id, count] : owners) EXPECT_EQ(1, count) << "table " << id;
 }
 
 struct TestRow {
