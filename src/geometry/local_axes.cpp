@@ -34,8 +34,13 @@ Vector Direction(const std::string& word) {
   return {0, 0, 0};
 }
 
-// Turns (a, b, c) by M or by its transpose; tiny results become 0.
-void Turn(const double (&m)[3][3], bool transpose, double& a, double& b, double& c) {
+// Turns (a, b, c) by the joint's M or by its transpose; tiny results
+// become 0. Without any record nothing changes and the result is 1.
+int TurnVector(const CTvtModel& target, const std::string& joint, bool transpose, double& a, double& b, double& c) {
+  if (target.JointRotations.Empty()) return 1;
+  const TvtJointRotationRec* rec = target.FindJointRotation(joint);
+  if (!rec) return 0;
+  const double(&m)[3][3] = rec->M;
   double r[3];
   for (int i = 0; i < 3; ++i) {
     r[i] = transpose ? m[0][i] * a + m[1][i] * b + m[2][i] * c : m[i][0] * a + m[i][1] * b + m[i][2] * c;
@@ -44,6 +49,7 @@ void Turn(const double (&m)[3][3], bool transpose, double& a, double& b, double&
   a = r[0];
   b = r[1];
   c = r[2];
+  return 1;
 }
 
 }  // namespace
@@ -72,19 +78,11 @@ int CS2kConverter::HasJointLocalAxes(const std::string& joint) const {
 }
 
 int CS2kConverter::LocalToGlobal(const std::string& joint, double& a, double& b, double& c) const {
-  if (targetModel->JointRotations.Empty()) return 1;
-  const TvtJointRotationRec* rec = targetModel->FindJointRotation(joint);
-  if (!rec) return 0;
-  Turn(rec->M, false, a, b, c);
-  return 1;
+  return TurnVector(*targetModel, joint, false, a, b, c);
 }
 
 int CS2kConverter::GlobalToLocal(const std::string& joint, double& a, double& b, double& c) const {
-  if (targetModel->JointRotations.Empty()) return 1;
-  const TvtJointRotationRec* rec = targetModel->FindJointRotation(joint);
-  if (!rec) return 0;
-  Turn(rec->M, true, a, b, c);
-  return 1;
+  return TurnVector(*targetModel, joint, true, a, b, c);
 }
 
 // The program's pi stops at 3.141592, and its angles with it.

@@ -4,20 +4,13 @@
 #include <cmath>
 #include <random>
 
-#include "frame/converter.h"
-#include "recording_ui.h"
+#include "geometry_engine.h"
 
 namespace {
 
 constexpr double kShortPi = 3.141592;
 
-struct Engine {
-  RecordingUserInterface ui;
-  CS2kConverter engine{ui};
-  Engine() {
-    engine.sourceModel->Reset();
-    engine.targetModel->Reset();
-  }
+struct Engine : GeometryEngine {
   const TvtJointRotationRec& Rotation(const std::string& joint) {
     const TvtJointRotationRec* rec = engine.targetModel->FindJointRotation(joint);
     EXPECT_NE(nullptr, rec) << joint;

@@ -3,19 +3,11 @@
 
 #include <random>
 
-#include "frame/converter.h"
-#include "recording_ui.h"
+#include "geometry_engine.h"
 
 namespace {
 
-struct Engine {
-  RecordingUserInterface ui;
-  CS2kConverter engine{ui};
-  Engine() {
-    engine.sourceModel->Reset();
-    engine.targetModel->Reset();
-  }
-};
+using Engine = GeometryEngine;
 
 template <class Row>
 Row Named(const std::string& joint) {
