@@ -113,10 +113,8 @@ struct S2kGeometryTables {
   CKeyedTable<S2kConstraintRodRow> ConstraintRod;                                  // 218
   CKeyedTable<S2kConstraintWeldRow> ConstraintWeld;                                // 219
 
-  /// The first joint row of a name, in walk order, as every joint lookup of
-  /// the conversion finds it.
-  CNameIndex<S2kJointCoordinatesRow> jointsByName{&S2kJointCoordinatesRow::Joint};
-  /// The same for the constraint definitions and the advanced local axes.
+  /// The first row of a name in walk order, for the constraint definitions
+  /// and the advanced local axes.
   CNameIndex<S2kConstraintBeamRow> beamsByName{&S2kConstraintBeamRow::Name};
   CNameIndex<S2kConstraintBodyRow> bodiesByName{&S2kConstraintBodyRow::Name};
   CNameIndex<S2kConstraintDiaphragmRow> diaphragmsByName{&S2kConstraintDiaphragmRow::Name};

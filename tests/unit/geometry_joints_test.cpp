@@ -1,4 +1,4 @@
-// Joint numbers, joint lookups, units, and the masters of constraints.
+// Joint numbers, units, and the masters of constraints.
 #include <gtest/gtest.h>
 
 #include <random>
@@ -86,23 +86,6 @@ TEST(ConvertJoints, OneNameNotAllDigitsRenumbersTheModel) {
     EXPECT_EQ(c.keep, e.engine.targetModel->jointsKeepNumbers) << testing::PrintToString(c.names);
     EXPECT_EQ(static_cast<int>(c.names.size()), e.engine.targetModel->Nodes.Count());
   }
-}
-
-TEST(FindJointGlobalCoordinates, FirstRowOfTheWalkOrZeros) {
-  Engine e;
-  auto& joints = e.engine.sourceModel->JointCoordinates;
-  S2kJointCoordinatesRow row;
-  row.Joint = "A";
-  row.GlobalX = 1;
-  joints.SetAt(1, row);
-  row.GlobalX = 2;
-  joints.SetAt(2, row);  // same name: the walk meets key 2 first
-  double x = 9, y = 9, z = 9;
-  EXPECT_EQ(1, e.engine.FindJointGlobalCoordinates("A", x, y, z));
-  EXPECT_EQ(2, x);
-  EXPECT_EQ(0, y);
-  EXPECT_EQ(0, e.engine.FindJointGlobalCoordinates("B", x, y, z));
-  EXPECT_EQ((std::vector<double>{0, 0, 0}), (std::vector<double>{x, y, z}));
 }
 
 TEST(Units, GravityByLengthUnitAndTemperaturesInCelsius) {
