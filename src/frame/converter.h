@@ -125,10 +125,6 @@ class CS2kConverter {
   /// The node number of a joint name, as every writer takes it: under
   /// renumbering 0 for a name that is no joint's, else atoi of the name.
   int NodeNumberOf(const std::string& name) const;
-  /// The first row of \p joint in the walk of the joint table, or nullptr.
-  const S2kJointCoordinatesRow* FindJointRow(const std::string& joint) const;
-  /// The global coordinates of \p joint; zeros and 0 when there is none.
-  int FindJointGlobalCoordinates(const std::string& joint, double& x, double& y, double& z) const;
 
   // ---- geometry/restraints.cpp, geometry/constraints.cpp -----------------------
   int ConvertRestraints();

@@ -9,18 +9,6 @@ int TvtGeometryTables::LookupNodeNumber(const std::string& name, int& number) co
   return 1;
 }
 
-const S2kJointCoordinatesRow* CS2kConverter::FindJointRow(const std::string& joint) const {
-  return sourceModel->jointsByName.Find(sourceModel->JointCoordinates, joint);
-}
-
-int CS2kConverter::FindJointGlobalCoordinates(const std::string& joint, double& x, double& y, double& z) const {
-  const S2kJointCoordinatesRow* row = FindJointRow(joint);
-  x = row ? row->GlobalX : 0;
-  y = row ? row->GlobalY : 0;
-  z = row ? row->GlobalZ : 0;
-  return row != nullptr;
-}
-
 int CS2kConverter::NodeNumberOf(const std::string& name) const {
   int number = 0;
   if (targetModel->jointsKeepNumbers)
