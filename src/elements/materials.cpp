@@ -5,7 +5,7 @@
 int CS2kConverter::FindMaterialNumber(const std::string& name, int& number) {
   const CKeyedTable<S2kMaterial1Row>& table = sourceModel->Material1;
   if (table.Empty()) return 0;
-  if (const auto* hit = materialNames.Find(table, name)) {
+  if (const auto* hit = materialNames.Hits(table, name)) {
     number = hit->First();
     return 1;
   }
@@ -18,7 +18,7 @@ int CS2kConverter::ConvertOrthotropicMaterial(const std::string& name, const std
                                               int key) {
   const CKeyedTable<S2kMaterial2Row>& table = sourceModel->Material2;
   if (table.Empty()) return 0;
-  const auto* hit = orthotropicNames.Find(table, name);
+  const auto* hit = orthotropicNames.Hits(table, name);
   if (!hit) return 0;
   const S2kMaterial2Row& row = *table.Lookup(hit->First());
   // The target's y and z are the source's 3 and 2, in every family.

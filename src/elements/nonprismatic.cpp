@@ -28,14 +28,14 @@ int CS2kConverter::ConvertNonprismaticSection(const S2kFrameSectionRow& section,
 
   bool startMissing = true, endMissing = true;
   std::string startCode, endCode;
-  if (const auto* own = nonprismaticNames.Find(segments, section.SectionName)) {
+  if (const auto* own = nonprismaticNames.Hits(segments, section.SectionName)) {
     for (int segmentKey : own->keys) {
       const S2kFrameNonprismaticRow& segment = *segments.Lookup(segmentKey);
       rec.TYPE = "TAPERED";
       if (sections.Empty()) break;
       // Every section of the name is met on the way, so the last in walk order stays.
       if (segment.SegmentNum == 1) {
-        if (const auto* start = sectionNames.Find(sections, segment.StartSect)) {
+        if (const auto* start = sectionNames.Hits(sections, segment.StartSect)) {
           const S2kFrameSectionRow& row = *sections.Lookup(start->Last());
           startCode = MapSectionShape(row.Shape, rec.BLT);
           ReadVariation(segment.EI22Var, rec.izVAR);
@@ -46,7 +46,7 @@ int CS2kConverter::ConvertNonprismaticSection(const S2kFrameSectionRow& section,
         }
       }
       if (segment.SegmentNum == segment.NumSegments) {
-        if (const auto* end = sectionNames.Find(sections, segment.EndSect)) {
+        if (const auto* end = sectionNames.Hits(sections, segment.EndSect)) {
           const S2kFrameSectionRow& row = *sections.Lookup(end->Last());
           endCode = MapSectionShape(row.Shape, rec.BLT);
           FillSectionDimensions(row, endCode, false, rec.D + 6);

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "s2k/keyed_table.h"
+#include "s2k/name_index.h"
 
 // ---- source rows ---------------------------------------------------------------
 
@@ -171,56 +172,6 @@ struct TvtPropertyTables {
 struct PropertyRunFlags {
   int MaterialAnisotropic = 0;
   int SectionNotTranslated = 0;
-};
-
-// ---- name lookups -------------------------------------------------------------------
-
-/// The keys a linear walk would stop at, for every name of one text field of
-/// a table: all rows of that name in walk order, and the last row of the
-/// walk. Built on first use; rebuilt when the row count of the table changes
-/// (tables only grow while the file is read, and are looked up after).
-template <class Row>
-class CNameIndex {
- public:
-  /// The keys of one name, in walk order; never empty.
-  struct Hit {
-    std::vector<int> keys;
-    int First() const { return keys.front(); }
-    int Last() const { return keys.back(); }
-  };
-
-  explicit CNameIndex(std::string Row::*field) : field_(field) {}
-
-  /// The rows named \p name, or nullptr when there are none.
-  const Hit* Find(const CKeyedTable<Row>& table, const std::string& name) {
-    Refresh(table);
-    auto it = hits_.find(name);
-    return it == hits_.end() ? nullptr : &it->second;
-  }
-  /// The key a walk ends on; 0 for an empty table.
-  int LastWalked(const CKeyedTable<Row>& table) {
-    Refresh(table);
-    return lastWalked_;
-  }
-
- private:
-  void Refresh(const CKeyedTable<Row>& table) {
-    if (table_ == &table && count_ == table.Count()) return;
-    table_ = &table;
-    count_ = table.Count();
-    hits_.clear();
-    lastWalked_ = 0;
-    table.Walk([&](int key, const Row& row) {
-      hits_[row.*field_].keys.push_back(key);
-      lastWalked_ = key;
-    });
-  }
-
-  std::string Row::*field_;
-  const CKeyedTable<Row>* table_ = nullptr;
-  int count_ = -1;
-  int lastWalked_ = 0;
-  std::unordered_map<std::string, Hit> hits_;
 };
 
 /// D1 to D6 of a section by its shape code, into \p D. With \p pairedForm the

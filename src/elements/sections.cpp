@@ -56,7 +56,7 @@ std::string CS2kConverter::MapSectionShape(const std::string& shape, int& BLT) {
 }
 
 int CS2kConverter::FindFrameSectionKey(const std::string& name) {
-  const auto* hit = sectionNames.Find(sourceModel->FrameSections, name);
+  const auto* hit = sectionNames.Hits(sourceModel->FrameSections, name);
   return hit ? hit->First() : 0;
 }
 
@@ -64,14 +64,14 @@ int CS2kConverter::FindSectionOffsetCode(const std::string& name, std::string& o
   const CKeyedTable<S2kFrameSectionAssignRow>& assigns = sourceModel->FrameSectionAssigns;
   if (assigns.Empty()) return 1;
   // A section that no frame uses takes the frame of the walk's last row.
-  const auto* assign = sectionAssignNames.Find(assigns, name);
+  const auto* assign = sectionAssignNames.Hits(assigns, name);
   const int assignKey = assign ? assign->First() : sectionAssignNames.LastWalked(assigns);
   const std::string& frame = assigns.Lookup(assignKey)->Frame;
 
   const CKeyedTable<S2kFrameInsertionRow>& insertions = sourceModel->FrameInsertions;
   if (insertions.Empty()) return 1;
   offset.clear();
-  const auto* insertion = insertionFrames.Find(insertions, frame);
+  const auto* insertion = insertionFrames.Hits(insertions, frame);
   if (!insertion) return 0;
   const std::string& cardinalPoint = insertions.Lookup(insertion->First())->CardinalPt;
   for (const ShapeCode& entry : kCardinalPointCodes) {
