@@ -5,8 +5,8 @@
 int CS2kConverter::FindMaterialNumber(const std::string& name, int& number) {
   const CKeyedTable<S2kMaterial1Row>& table = sourceModel->Material1;
   if (table.Empty()) return 0;
-  if (const auto* hit = materialNames.Hits(table, name)) {
-    number = hit->First();
+  if (const int key = materialNames.FindKey(table, name)) {
+    number = key;
     return 1;
   }
   // The walk ran to its end without a match.
@@ -18,9 +18,9 @@ int CS2kConverter::ConvertOrthotropicMaterial(const std::string& name, const std
                                               int key) {
   const CKeyedTable<S2kMaterial2Row>& table = sourceModel->Material2;
   if (table.Empty()) return 0;
-  const auto* hit = orthotropicNames.Hits(table, name);
-  if (!hit) return 0;
-  const S2kMaterial2Row& row = *table.Lookup(hit->First());
+  const S2kMaterial2Row* found = orthotropicNames.Find(table, name);
+  if (!found) return 0;
+  const S2kMaterial2Row& row = *found;
   // The target's y and z are the source's 3 and 2, in every family.
   TvtMaterialRec rec;
   rec.kind = 2;

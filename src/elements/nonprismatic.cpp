@@ -15,6 +15,10 @@ void ReadVariation(const std::string& word, int& variation) {
 
 }  // namespace
 
+int CS2kConverter::FindNonprismaticKey(const std::string& name) {
+  return nonprismaticNames.FindKey(sourceModel->FrameNonprismatic, name);
+}
+
 int CS2kConverter::ConvertNonprismaticSection(const S2kFrameSectionRow& section, TvtSectionRec& rec) {
   const CKeyedTable<S2kFrameNonprismaticRow>& segments = sourceModel->FrameNonprismatic;
   if (segments.Empty()) return 1;

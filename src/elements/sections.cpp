@@ -6,19 +6,19 @@
 
 namespace {
 
-struct ShapeCode {
+struct WordCode {
   std::string_view word;
   const char* code;
 };
 
-constexpr ShapeCode kShapeCodes[] = {
+constexpr WordCode kWordCodes[] = {
     {"I/Wide Flange", "H"}, {"Channel", "C"},     {"Tee", "T"},         {"Angle", "L"},
     {"Double Angle", "2L"}, {"Box/Tube", "B"},    {"Pipe", "P"},        {"Rectangular", "SB"},
     {"Circle", "SR"},       {"General", "SB"},
 };
 
 // Substrings of the cardinal point, tested in this order: "11 (" is caught by "1 (".
-constexpr ShapeCode kCardinalPointCodes[] = {
+constexpr WordCode kCardinalPointCodes[] = {
     {"1 (", "RB"}, {"2", "CB"}, {"3", "LB"}, {"4", "RC"}, {"5", "CC"},  {"6", "LC"},
     {"7", "RT"},   {"8", "CT"}, {"9", "LT"}, {"10", "CC"}, {"11", "CC"},
 };
@@ -50,31 +50,30 @@ void FillSectionProperties(const S2kFrameSectionRow& row, TvtSectionRec& rec, in
 
 std::string CS2kConverter::MapSectionShape(const std::string& shape, int& BLT) {
   BLT = 2;
-  for (const ShapeCode& entry : kShapeCodes)
+  for (const WordCode& entry : kWordCodes)
     if (shape == entry.word) return entry.code;
   return "";
 }
 
 int CS2kConverter::FindFrameSectionKey(const std::string& name) {
-  const auto* hit = sectionNames.Hits(sourceModel->FrameSections, name);
-  return hit ? hit->First() : 0;
+  return sectionNames.FindKey(sourceModel->FrameSections, name);
 }
 
 int CS2kConverter::FindSectionOffsetCode(const std::string& name, std::string& offset) {
   const CKeyedTable<S2kFrameSectionAssignRow>& assigns = sourceModel->FrameSectionAssigns;
   if (assigns.Empty()) return 1;
   // A section that no frame uses takes the frame of the walk's last row.
-  const auto* assign = sectionAssignNames.Hits(assigns, name);
-  const int assignKey = assign ? assign->First() : sectionAssignNames.LastWalked(assigns);
+  int assignKey = sectionAssignNames.FindKey(assigns, name);
+  if (!assignKey) assignKey = sectionAssignNames.LastWalked(assigns);
   const std::string& frame = assigns.Lookup(assignKey)->Frame;
 
   const CKeyedTable<S2kFrameInsertionRow>& insertions = sourceModel->FrameInsertions;
   if (insertions.Empty()) return 1;
   offset.clear();
-  const auto* insertion = insertionFrames.Hits(insertions, frame);
+  const S2kFrameInsertionRow* insertion = insertionFrames.Find(insertions, frame);
   if (!insertion) return 0;
-  const std::string& cardinalPoint = insertions.Lookup(insertion->First())->CardinalPt;
-  for (const ShapeCode& entry : kCardinalPointCodes) {
+  const std::string& cardinalPoint = insertion->CardinalPt;
+  for (const WordCode& entry : kCardinalPointCodes) {
     if (cardinalPoint.find(entry.word) != std::string::npos) {
       offset = entry.code;
       break;

@@ -216,6 +216,8 @@ class CS2kConverter {
   static std::string MapSectionShape(const std::string& shape, int& BLT);
   /// The key of the first row of table 253 named \p name in walk order; 0 for none.
   int FindFrameSectionKey(const std::string& name);
+  /// The key of the first row of table 257 named \p name in walk order; 0 for none.
+  int FindNonprismaticKey(const std::string& name);
   /// Sets \p offset from the insertion point of a frame of section \p name.
   /// \returns 0 when that frame has no insertion row (\p offset then empty).
   int FindSectionOffsetCode(const std::string& name, std::string& offset);
