@@ -1,1 +1,201 @@
-int main() { return 0; }
+// Conversion time and memory by model size. Generates s2k models of growing
+// size (joints, frames, areas, sections, materials, restraints, offsets,
+// releases), converts each in a child process through ConvertPath with a
+// silent user interface, and prints time, peak memory and rows per second.
+//
+//   quillmesh_bench [largest joint count, default 200000]
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <string>
+#include <vector>
+
+#include "quillmesh/quillmesh.hpp"
+
+namespace {
+
+class SilentUserInterface : public quillmesh::UserInterface {
+ public:
+  bool ChooseInputFile(const std::string&, std::string&) override { return false; }
+  void ShowMessage(const std::string&, const std::string&) override {}
+  void OpenProgress(int) override {}
+  void SetStage(int) override {}
+  void SetRange(int) override {}
+  bool Advance(int) override { return true; }
+  void CloseProgress() override {}
+};
+
+struct Model {
+  long rows = 0;
+};
+
+// A square grid of n joints; one frame per joint along the grid lines, an
+// area per hundred joints, a rigid zone and a release on every tenth frame.
+// With \p named, joints and frames get names that are not numbers.
+Model WriteModel(const std::filesystem::path& path, int n, bool named) {
+  std::ofstream out(path);
+  Model model;
+  const std::string joint = named ? "J" : "";
+  const std::string frame = named ? "F" : "";
+  int side = 1;
+  while (side * side < n) ++side;
+
+  out << "File bench.s2k was generated\n\n";
+  out << "TABLE:  \"PROGRAM CONTROL\"\n   ProgramName=SAP2000   Version=8.0.0   CurrUnits=\"KN, m, C\"\n\n";
+  ++model.rows;
+  out << "TABLE:  \"MATERIAL PROPERTIES 01 - GENERAL\"\n"
+         "   Material=CONC   Type=Isotropic   DesignType=Concrete   UnitMass=2.4   UnitWeight=23.5   E=25000000   "
+         "U=0.2   A=0.0000099\n"
+         "   Material=STEEL   Type=Isotropic   DesignType=Steel   UnitMass=7.8   UnitWeight=76.9   E=200000000   "
+         "U=0.3   A=0.0000117\n\n";
+  model.rows += 2;
+  out << "TABLE:  \"FRAME SECTION PROPERTIES 01 - GENERAL\"\n"
+         "   SectionName=COL   Material=CONC   Shape=Rectangular   t3=0.5   t2=0.5   Area=0.25   TorsConst=0.0088   "
+         "I33=0.0052   I22=0.0052   AS2=0.208   AS3=0.208\n"
+         "   SectionName=BEAM   Material=STEEL   Shape=\"I/Wide Flange\"   t3=0.4   t2=0.2   tf=0.015   tw=0.01   "
+         "t2b=0.2   tfb=0.015   Area=0.0098\n\n";
+  model.rows += 2;
+  out << "TABLE:  \"AREA SECTION PROPERTIES\"\n"
+         "   Section=SLAB   Material=CONC   MatAngle=0   AreaType=Shell   Type=Shell-Thin   Thickness=0.2   "
+         "BendThick=0.2\n\n";
+  ++model.rows;
+
+  out << "TABLE:  \"JOINT COORDINATES\"\n";
+  for (int i = 0; i < n; ++i) {
+    out << "   Joint=" << joint << i + 1 << "   CoordSys=GLOBAL   CoordType=Cartesian   XorR=" << i % side
+        << "   Y=" << i / side << "   Z=0   SpecialJt=No   GlobalX=" << i % side << "   GlobalY=" << i / side
+        << "   GlobalZ=0\n";
+  }
+  out << "\n";
+  model.rows += n;
+
+  out << "TABLE:  \"JOINT RESTRAINT ASSIGNMENTS\"\n";
+  for (int i = 0; i < side && i < n; ++i) {
+    out << "   Joint=" << joint << i + 1 << "   U1=Yes   U2=Yes   U3=Yes   R1=Yes   R2=Yes   R3=Yes\n";
+    ++model.rows;
+  }
+  out << "\n";
+
+  // Frame f runs from joint f to its right neighbour, or up the grid at the
+  // right edge.
+  std::vector<std::pair<int, int>> frames;
+  frames.reserve(n);
+  for (int i = 0; i < n && static_cast<int>(frames.size()) < n; ++i) {
+    int right = i + 1, up = i + side;
+    int j = (i % side != side - 1 && right < n) ? right : up;
+    if (j >= n) j = (i + 1) % n;
+    frames.emplace_back(i + 1, j + 1);
+  }
+  out << "TABLE:  \"CONNECTIVITY - FRAME\"\n";
+  for (std::size_t f = 0; f < frames.size(); ++f)
+    out << "   Frame=" << frame << f + 1 << "   JointI=" << joint << frames[f].first << "   JointJ=" << joint
+        << frames[f].second << "   Length=1\n";
+  out << "\n";
+  out << "TABLE:  \"FRAME SECTION ASSIGNMENTS\"\n";
+  for (std::size_t f = 0; f < frames.size(); ++f)
+    out << "   Frame=" << frame << f + 1 << "   SectionType=Rectangular   AutoSelect=N.A.   AnalSect="
+        << (f % 2 ? "BEAM" : "COL") << "   DesignSect=" << (f % 2 ? "BEAM" : "COL") << "   MatProp=Default\n";
+  out << "\n";
+  model.rows += 2 * static_cast<long>(frames.size());
+
+  out << "TABLE:  \"FRAME OFFSET ALONG LENGTH ASSIGNMENTS\"\n";
+  for (std::size_t f = 0; f < frames.size(); f += 10) {
+    out << "   Frame=" << frame << f + 1 << "   Type=User   LengthI=0.25   LengthJ=0.25   RigidFactor=0\n";
+    ++model.rows;
+  }
+  out << "\n";
+  out << "TABLE:  \"FRAME RELEASE ASSIGNMENTS 1 - GENERAL\"\n";
+  for (std::size_t f = 5; f < frames.size(); f += 10) {
+    out << "   Frame=" << frame << f + 1
+        << "   PI=No   V2I=No   V3I=No   TI=No   M2I=Yes   M3I=Yes   PJ=No   V2J=No   V3J=No   TJ=No   M2J=Yes   "
+           "M3J=Yes   PartialFix=No\n";
+    ++model.rows;
+  }
+  out << "\n";
+
+  out << "TABLE:  \"CONNECTIVITY - AREA\"\n";
+  int areas = 0;
+  for (int i = 0; i + side + 1 < n; i += 100) {
+    if (i % side == side - 1) continue;
+    ++areas;
+    out << "   Area=" << (named ? "A" : "") << areas << "   Joint1=" << joint << i + 1 << "   Joint2=" << joint
+        << i + 2 << "   Joint3=" << joint << i + side + 1 << "   Joint4=" << joint << i + side + 2 << "\n";
+  }
+  out << "\n";
+  out << "TABLE:  \"AREA SECTION ASSIGNMENTS\"\n";
+  for (int a = 1; a <= areas; ++a)
+    out << "   Area=" << (named ? "A" : "") << a << "   Section=SLAB   MatProp=Default\n";
+  out << "\nEND TABLE DATA\n";
+  model.rows += 2L * areas;
+  return model;
+}
+
+struct Result {
+  int code = -1;
+  double seconds = 0;
+  long peakKb = 0;
+};
+
+// Runs in a child so that each size has a peak memory of its own.
+Result ConvertInChild(const std::filesystem::path& path) {
+  int fds[2];
+  if (pipe(fds) != 0) return {};
+  pid_t pid = fork();
+  if (pid == 0) {
+    close(fds[0]);
+    SilentUserInterface ui;
+    auto start = std::chrono::steady_clock::now();
+    Result result;
+    result.code = quillmesh::ConvertPath(path.string(), ui);
+    result.seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+    rusage usage{};
+    getrusage(RUSAGE_SELF, &usage);
+    result.peakKb = usage.ru_maxrss;
+    ssize_t written = write(fds[1], &result, sizeof result);
+    _exit(written == static_cast<ssize_t>(sizeof result) ? 0 : 1);
+  }
+  close(fds[1]);
+  Result result;
+  if (read(fds[0], &result, sizeof result) != static_cast<ssize_t>(sizeof result)) result = {};
+  close(fds[0]);
+  int status = 0;
+  waitpid(pid, &status, 0);
+  return result;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  int largest = argc > 1 ? std::atoi(argv[1]) : 200000;
+  if (largest < 20) largest = 20;
+  namespace fs = std::filesystem;
+  fs::path folder = fs::temp_directory_path() / ("quillmesh-bench-" + std::to_string(getpid()));
+  fs::create_directories(folder);
+
+  std::vector<int> sizes;
+  for (int n = largest; n >= 200 && sizes.size() < 4; n /= 10) sizes.insert(sizes.begin(), n);
+
+  std::printf("%-9s %9s %9s %10s %8s %9s %12s %8s %5s\n", "names", "joints", "frames", "rows", "file MB",
+              "seconds", "rows/second", "peak MB", "code");
+  for (bool named : {false, true}) {
+    for (int n : sizes) {
+      fs::path path = folder / ("model-" + std::to_string(n) + (named ? "-named" : "") + ".s2k");
+      Model model = WriteModel(path, n, named);
+      double megabytes = static_cast<double>(fs::file_size(path)) / (1024.0 * 1024.0);
+      Result result = ConvertInChild(path);
+      std::printf("%-9s %9d %9d %10ld %8.1f %9.3f %12.0f %8ld %5d\n", named ? "renumber" : "numeric", n, n,
+                  model.rows, megabytes, result.seconds,
+                  result.seconds > 0 ? static_cast<double>(model.rows) / result.seconds : 0.0, result.peakKb / 1024,
+                  result.code);
+      std::fflush(stdout);
+    }
+  }
+  fs::remove_all(folder);
+  return 0;
+}

@@ -226,3 +226,4 @@ struct TvtElementTables {
   /// Set when an area section has a type that the target cannot place.
   int AreaPropNotConverted = 0;
 };
+

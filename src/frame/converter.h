@@ -231,7 +231,85 @@ class CS2kConverter {
 
   // ---- elements/frames.cpp ------------------------------------------------------
   int ConvertFrames();
+  /// Decides the element numbers and writes frames, plates and solids; fills
+  /// the element map that every later writer looks names up in.
   int WriteElements();
+  /// iPRO and iMAT of the frame in row \p key of table 202: the row of table
+  /// 252 with the same key counts, whatever frame it names. Left as they were
+  /// when nothing is found.
+  void FindFrameSection(int key, int& iPRO, int& iMAT);
+  /// The first row of table 239 for \p name, its angle adjusted for advanced
+  /// axes. \returns 0 when there is none.
+  int FindFrameAngle(const std::string& name, S2kFrameLocalAxes1Row& row);
+  /// Folds the advanced axes of \p name (table 240) into \p angle.
+  void AdjustAngleForAdvancedAxes(const std::string& name, double& angle);
+  /// Global coordinates of joint \p name, first row in walk order.
+  /// \returns 0, with zeros, when there is no such joint.
+  int FindJointGlobalCoordinates(const std::string& name, double& x, double& y, double& z);
+  /// Whether element numbers are positions rather than names. Valid once
+  /// *ELEMENT is written.
+  int IsRenumbered() const;
+  /// The number of the element \p name of \p kind ("FRAME", "AREA", "SOLID")
+  /// from the element map, first match in walk order. An empty map gives 1
+  /// and leaves \p number. \returns 0, \p number left, when not found.
+  int FindElementNumber(const std::string& name, const std::string& kind, int& number);
+  /// The element number every writer prints: the map's under renumbering
+  /// (0 when not found), else atoi of the name.
+  int ElementNumberOf(const std::string& name, const std::string& kind);
+  /// Clears ElementNamesNumeric for a name with a character other than a digit.
+  void NoteElementName(const std::string& name);
+  /// The node of joint \p name by the model's node rule; under renumbering an
+  /// unknown name leaves \p number as it was.
+  void ResolveNodeNumber(const std::string& name, int& number);
+  int DecideRenumbering();
+  void WriteFrameLines(int frames);
+  void WritePlateLines(int frames, int areas);
+  void WriteSolidLines(int frames, int areas, int solids);
+
+  CNameIndex<S2kJointCoordinatesRow> jointCoordinateNames{&S2kJointCoordinatesRow::Joint};
+  CNameIndex<S2kFrameLocalAxes1Row> frameAngleNames{&S2kFrameLocalAxes1Row::Frame};
+  CNameIndex<S2kFrameLocalAxes2Row> frameAdvancedAxesNames{&S2kFrameLocalAxes2Row::Frame};
+  /// Kind, a zero character and name, to the first number in walk order.
+  std::unordered_map<std::string, int> elementNumberIndex;
+  int elementNumberIndexCount = -1;
+
+  // ---- elements/areas.cpp -------------------------------------------------------
+  int ConvertAreas();
+  int ConvertSolids();
+  /// Kind 1: AnalSect of frame \p name (table 252); kind 2: Section of area
+  /// \p name (table 125). \returns 1 when found.
+  int FindAreaSectionName(const std::string& name, int kind, std::string& section);
+  /// Element type, property, material and iSUB of an area of \p section.
+  /// \returns 0 when no row of that name gives a known material.
+  int FindAreaSectionData(const std::string& section, const S2kConnectivityAreaRow& area, int& iPRO, int& iMAT,
+                          int& iSUB, std::string& TYPE);
+  /// The material of solid \p name through its property. \returns 0 when
+  /// no assigned property names a known material.
+  int FindSolidMaterial(const std::string& name, int& number);
+  /// Material lookup of areas and solids: an empty material table leaves the
+  /// number and counts as found.
+  int FindElementMaterial(const std::string& name, int& number);
+  /// All four corners share one GlobalY; unknown joints lie at the origin.
+  int IsFlatInY(const S2kConnectivityAreaRow& area);
+
+  CNameIndex<S2kAreaSectionAssignRow> areaSectionAssignNames{&S2kAreaSectionAssignRow::Area};
+  CNameIndex<S2kFrameSectionAssignRow> frameSectionAssignFrames{&S2kFrameSectionAssignRow::Frame};
+  CNameIndex<S2kSolidPropRow> solidPropNames{&S2kSolidPropRow::SolidProp};
+  CNameIndex<S2kAreaSectionRow> areaSectionRows{&S2kAreaSectionRow::Section};
+  CNameIndex<S2kSolidPropAssignRow> solidPropAssignRows{&S2kSolidPropAssignRow::Solid};
+
+  // ---- elements/offsets.cpp -----------------------------------------------------
+  int ConvertEndOffsets();
+  int ConvertFrameReleases();
+  int WriteOffsets();
+  int WriteFrameReleases();
+  /// The key of the first offset record of frame \p name in walk order.
+  /// \returns 0 when there is none.
+  int FindOffsetByElement(const std::string& name, int& key);
+
+  CNameIndex<S2kFramePartialFixRow> partialFixFrames{&S2kFramePartialFixRow::Frame};
+  /// Frame names of the offset records, kept while the offsets are converted.
+  std::unordered_map<std::string, int> offsetFrames;
 
   // ---- elements/element_parsers.cpp ------------------------------------------------
   int ParseAreaSectionAssign();  // 125
@@ -247,16 +325,6 @@ class CS2kConverter {
   int ParseSolidPropAssign();    // 489
   int ParseSolidProp();          // 490
   int ParseSolidSummary();       // 505
-
-  // ---- elements/areas.cpp -------------------------------------------------------
-  int ConvertAreas();
-  int ConvertSolids();
-
-  // ---- elements/offsets.cpp -----------------------------------------------------
-  int ConvertEndOffsets();
-  int ConvertFrameReleases();
-  int WriteOffsets();
-  int WriteFrameReleases();
 
   // ---- elements/springs.cpp, elements/spring_parsers.cpp -------------------------
   int ParseJointSprings();
