@@ -116,6 +116,16 @@ struct S2kGeometryTables {
   /// The first joint row of a name, in walk order, as every joint lookup of
   /// the conversion finds it.
   CNameIndex<S2kJointCoordinatesRow> jointsByName{&S2kJointCoordinatesRow::Joint};
+  /// The same for the constraint definitions and the advanced local axes.
+  CNameIndex<S2kConstraintBeamRow> beamsByName{&S2kConstraintBeamRow::Name};
+  CNameIndex<S2kConstraintBodyRow> bodiesByName{&S2kConstraintBodyRow::Name};
+  CNameIndex<S2kConstraintDiaphragmRow> diaphragmsByName{&S2kConstraintDiaphragmRow::Name};
+  CNameIndex<S2kConstraintEqualRow> equalsByName{&S2kConstraintEqualRow::Name};
+  CNameIndex<S2kConstraintLineRow> linesByName{&S2kConstraintLineRow::Name};
+  CNameIndex<S2kConstraintPlateRow> platesByName{&S2kConstraintPlateRow::Name};
+  CNameIndex<S2kConstraintRodRow> rodsByName{&S2kConstraintRodRow::Name};
+  CNameIndex<S2kConstraintWeldRow> weldsByName{&S2kConstraintWeldRow::Name};
+  CNameIndex<S2kJointLocalAxes2Row> advancedAxesByJoint{&S2kJointLocalAxes2Row::Joint};
 };
 
 /// Run flags of the geometry conversion: set in conversion, tested by writers.
@@ -169,6 +179,7 @@ struct TvtGeometryTables {
     JointRotations.Reset(10001);
     ConstraintAutoAxisSeen = 0;
     ConstraintLocalSeen = 0;
+    rotationKeys_.clear();
   }
 
   /// Under renumbering: sets \p number to the node of the first joint of
