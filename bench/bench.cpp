@@ -1,6 +1,6 @@
 // Conversion time and memory by model size. Generates s2k models of growing
 // size (joints, frames, areas, sections, materials, restraints, offsets,
-// releases), converts each in a child process through ConvertPath with a
+// releases, springs, masses), converts each in a child process through ConvertPath with a
 // silent user interface, and prints time, peak memory and rows per second.
 //
 //   quillmesh_bench [largest joint count, default 200000]
@@ -33,6 +33,7 @@ class SilentUserInterface : public quillmesh::UserInterface {
 
 struct Model {
   long rows = 0;
+  long massRows = 0;
 };
 
 // A square grid of n joints; one frame per joint along the grid lines, an
@@ -131,8 +132,38 @@ Model WriteModel(const std::filesystem::path& path, int n, bool named) {
   out << "TABLE:  \"AREA SECTION ASSIGNMENTS\"\n";
   for (int a = 1; a <= areas; ++a)
     out << "   Area=" << (named ? "A" : "") << a << "   Section=SLAB   MatProp=Default\n";
-  out << "\nEND TABLE DATA\n";
+  out << "\n";
   model.rows += 2L * areas;
+
+  // Springs: uncoupled on every tenth joint, coupled on every hundredth, line
+  // springs on every tenth frame and on every area. Masses: one on every
+  // joint and a second on every other joint, merged by name with the frame
+  // masses of every frame and the area masses of every area.
+  out << "TABLE:  \"JOINT SPRING ASSIGNMENTS 1 - UNCOUPLED\"\n";
+  for (int i = 0; i < n; i += 10, ++model.rows)
+    out << "   Joint=" << joint << i + 1 << "   CoordSys=GLOBAL   U1=10   U2=10   U3=100   R1=0   R2=0   R3=0\n";
+  out << "\nTABLE:  \"JOINT SPRING ASSIGNMENTS 2 - COUPLED\"\n";
+  for (int i = 0; i < n; i += 100, ++model.rows)
+    out << "   Joint=" << joint << i + 1
+        << "   CoordSys=GLOBAL   U1=10   U1U2=1   U2=10   U1U3=1   U2U3=1   U3=100   R1=5   R2=5   R3=5\n";
+  out << "\nTABLE:  \"FRAME LINE SPRING ASSIGNMENTS\"\n";
+  for (std::size_t f = 0; f < frames.size(); f += 10, ++model.rows)
+    out << "   Frame=" << frame << f + 1 << "   Dir=2   Stiffness=5\n";
+  out << "\nTABLE:  \"AREA SPRING ASSIGNMENTS\"\n";
+  for (int a = 1; a <= areas; ++a, ++model.rows)
+    out << "   Area=" << (named ? "A" : "") << a << "   Face=5   Dir=3   Stiffness=2\n";
+  out << "\nTABLE:  \"JOINT ADDED MASS ASSIGNMENTS\"\n";
+  for (int pass = 1; pass <= 2; ++pass)
+    for (int i = 0; i < n; i += pass, ++model.massRows)
+      out << "   Joint=" << joint << i + 1 << "   CoordSys=GLOBAL   Mass1=1   Mass2=1   Mass3=1   MMI1=0   MMI2=0   MMI3=0\n";
+  out << "\nTABLE:  \"FRAME ADDED MASS ASSIGNMENTS\"\n";
+  for (std::size_t f = 0; f < frames.size(); ++f, ++model.massRows)
+    out << "   Frame=" << frame << f + 1 << "   MassPerLen=0.1\n";
+  out << "\nTABLE:  \"AREA ADDED MASS ASSIGNMENTS\"\n";
+  for (int a = 1; a <= areas; ++a, ++model.massRows)
+    out << "   Area=" << (named ? "A" : "") << a << "   MassPerArea=0.5\n";
+  model.rows += model.massRows;
+  out << "\nEND TABLE DATA\n";
   return model;
 }
 
@@ -181,16 +212,16 @@ int main(int argc, char** argv) {
   std::vector<int> sizes;
   for (int n = largest; n >= 200 && sizes.size() < 4; n /= 10) sizes.insert(sizes.begin(), n);
 
-  std::printf("%-9s %9s %9s %10s %8s %9s %12s %8s %5s\n", "names", "joints", "frames", "rows", "file MB",
-              "seconds", "rows/second", "peak MB", "code");
+  std::printf("%-9s %9s %9s %10s %10s %8s %9s %12s %8s %5s\n", "names", "joints", "frames", "rows", "mass rows",
+              "file MB", "seconds", "rows/second", "peak MB", "code");
   for (bool named : {false, true}) {
     for (int n : sizes) {
       fs::path path = folder / ("model-" + std::to_string(n) + (named ? "-named" : "") + ".s2k");
       Model model = WriteModel(path, n, named);
       double megabytes = static_cast<double>(fs::file_size(path)) / (1024.0 * 1024.0);
       Result result = ConvertInChild(path);
-      std::printf("%-9s %9d %9d %10ld %8.1f %9.3f %12.0f %8ld %5d\n", named ? "renumber" : "numeric", n, n,
-                  model.rows, megabytes, result.seconds,
+      std::printf("%-9s %9d %9d %10ld %10ld %8.1f %9.3f %12.0f %8ld %5d\n", named ? "renumber" : "numeric", n, n,
+                  model.rows, model.massRows, megabytes, result.seconds,
                   result.seconds > 0 ? static_cast<double>(model.rows) / result.seconds : 0.0, result.peakKb / 1024,
                   result.code);
       std::fflush(stdout);

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <string>
-#include <unordered_map>
 
 #include "s2k/keyed_table.h"
 
@@ -58,32 +57,6 @@ struct SpringRunFlags {
   int FrameSpringsToNodes = 0;
   int PlateSpringsToNodes = 0;
   int PlateSpringNotConverted = 0;
-};
-
-/// The first row in walk order of each name of a source table, so that a
-/// lookup by name gives what a walk to the first match gives.
-template <class Row>
-class CFirstRowByName {
- public:
-  explicit CFirstRowByName(std::string Row::*name) : name_(name) {}
-
-  /// \returns the first row in walk order whose name equals \p name, or nullptr.
-  const Row* Find(const CKeyedTable<Row>& table, const std::string& name) {
-    if (table_ != &table || indexedCount_ != table.Count()) {
-      keys_.clear();
-      table.Walk([&](int key, const Row& row) { keys_.try_emplace(row.*name_, key); });
-      table_ = &table;
-      indexedCount_ = table.Count();
-    }
-    auto it = keys_.find(name);
-    return it == keys_.end() ? nullptr : table.Lookup(it->second);
-  }
-
- private:
-  std::string Row::*name_;
-  const CKeyedTable<Row>* table_ = nullptr;
-  int indexedCount_ = -1;
-  std::unordered_map<std::string, int> keys_;
 };
 
 struct S2kSpringTables {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdio>
+#include <initializer_list>
 #include <memory>
 #include <string>
 #include <vector>
@@ -169,6 +170,10 @@ class CS2kConverter {
   // ---- geometry/masses.cpp, geometry/mass_parsers.cpp ---------------------------
   int ParseFrameMasses();
   int ParseAreaMasses();
+  /// Merges \p record into the nodal mass of its joint. \returns the insert's result.
+  int AddNodalMass(TvtNodalmassRec record);
+  /// Adds \p m to the three masses of each joint of \p joints, in order.
+  int LumpNodalMass(std::initializer_list<const std::string*> joints, double m);
   int ConvertJointMasses();
   int ConvertFrameMasses();
   int ConvertAreaMasses();
@@ -330,6 +335,15 @@ class CS2kConverter {
   int ConvertAreaSprings();
   int WriteSprings();
   int WriteGeneralSprings();
+  /// The first row in walk order of a frame or area name, or nullptr.
+  const S2kConnectivityFrameRow* FindFrameConnectivity(const std::string& frame);
+  const S2kConnectivityAreaRow* FindAreaConnectivity(const std::string& area);
+  /// The node of a spring's joint list: the first joint's number when joints
+  /// keep their numbers; under renumbering a list that is no joint's name
+  /// leaves \p number as it was.
+  void SpringNodeNumber(const std::string& nodeList, int& number) const;
+  CNameIndex<S2kConnectivityFrameRow> frameConnectivityByName{&S2kConnectivityFrameRow::Frame};
+  CNameIndex<S2kConnectivityAreaRow> areaConnectivityByName{&S2kConnectivityAreaRow::Area};
 
   // ---- conversion steps ---------------------------------------------------------
   int ConvertJointStep();

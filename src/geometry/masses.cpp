@@ -1,4 +1,6 @@
 // Joint, frame and area masses to *NODALMASS.
+#include <initializer_list>
+
 #include "frame/converter.h"
 
 void TvtMassTables::MergeNodalMass(const std::string& name, int& key, TvtNodalmassRec& record) {
@@ -39,9 +41,56 @@ void TvtMassTables::MergeNodalMass(const std::string& name, int& key, TvtNodalma
   nodalMassKeys_[name] = key;
 }
 
-int CS2kConverter::ConvertJointMasses() { return 1; }
-int CS2kConverter::ConvertFrameMasses() { return 1; }
-int CS2kConverter::ConvertAreaMasses() { return 1; }
+int CS2kConverter::AddNodalMass(TvtNodalmassRec record) {
+  int key = 1;
+  targetModel->MergeNodalMass(record.NODE_LIST, key, record);
+  return targetModel->NodalMasses.SetAt(key, record);
+}
+
+int CS2kConverter::ConvertJointMasses() {
+  for (int key : sourceModel->JointMasses.WalkKeys()) {
+    S2kJointMassRow row = *sourceModel->JointMasses.Lookup(key);
+    if (row.CoordSys == "Local") {
+      LocalToGlobal(row.Joint, row.Mass1, row.Mass2, row.Mass3);
+      LocalToGlobal(row.Joint, row.MMI1, row.MMI2, row.MMI3);
+    }
+    if (!AddNodalMass({row.Joint, row.Mass1, row.Mass2, row.Mass3, row.MMI1, row.MMI2, row.MMI3})) return 0;
+  }
+  return 1;
+}
+
+int CS2kConverter::LumpNodalMass(std::initializer_list<const std::string*> joints, double m) {
+  for (const std::string* joint : joints)
+    if (!AddNodalMass({*joint, m, m, m, 0, 0, 0})) return 0;
+  return 1;
+}
+
+// Half of a frame's mass goes to each end. A frame without connectivity
+// lumps nothing onto the empty name.
+int CS2kConverter::ConvertFrameMasses() {
+  for (int key : sourceModel->FrameMasses.WalkKeys()) {
+    const S2kFrameMassRow& row = *sourceModel->FrameMasses.Lookup(key);
+    static const S2kConnectivityFrameRow kNoFrame;
+    const S2kConnectivityFrameRow* found = FindFrameConnectivity(row.Frame);
+    const S2kConnectivityFrameRow& frame = found ? *found : kNoFrame;
+    if (!LumpNodalMass({&frame.JointI, &frame.JointJ}, row.MassPerLen * frame.Length / 2)) return 0;
+  }
+  return 1;
+}
+
+// A quarter of an area's mass goes to each of its four joint names, so a
+// triangle's fourth share goes to the empty name.
+int CS2kConverter::ConvertAreaMasses() {
+  for (int key : sourceModel->AreaMasses.WalkKeys()) {
+    const S2kAreaMassRow& row = *sourceModel->AreaMasses.Lookup(key);
+    static const S2kConnectivityAreaRow kNoArea;
+    const S2kConnectivityAreaRow* found = FindAreaConnectivity(row.Area);
+    const S2kConnectivityAreaRow& area = found ? *found : kNoArea;
+    if (!LumpNodalMass({&area.Joint1, &area.Joint2, &area.Joint3, &area.Joint4}, row.MassPerArea * area.AreaArea / 4))
+      return 0;
+  }
+  return 1;
+}
 
 int CS2kConverter::WriteNodalMasses() {
   const auto& masses = targetModel->NodalMasses;

@@ -78,24 +78,4 @@ TEST(MergeNodalMass, FindsRowsThatWentInWithoutIt) {
   EXPECT_EQ((std::vector<std::string>{"1:1", "2:15", "3:4"}), MergeAll(tables, {{"2", 5}, {"3", 4}}));
 }
 
-TEST(FirstRowByName, GivesTheFirstMatchOfAWalk) {
-  struct Row {
-    std::string Name;
-    int value = 0;
-  };
-  CKeyedTable<Row> table;
-  table.Reset(17);
-  // 20 rows walk as 15..1, then 20..16: of two rows named "x", key 15 comes first.
-  for (int key = 1; key <= 20; ++key) table.SetAt(key, Row{key == 3 || key == 15 ? "x" : std::to_string(key), key});
-  CFirstRowByName<Row> index(&Row::Name);
-  ASSERT_NE(nullptr, index.Find(table, "x"));
-  EXPECT_EQ(15, index.Find(table, "x")->value);
-  EXPECT_EQ(20, index.Find(table, "20")->value);
-  EXPECT_EQ(nullptr, index.Find(table, "3"));
-  EXPECT_EQ(nullptr, index.Find(table, ""));
-  table.SetAt(21, Row{"", 21});  // a new row is seen
-  ASSERT_NE(nullptr, index.Find(table, ""));
-  EXPECT_EQ(21, index.Find(table, "")->value);
-}
-
 }  // namespace
