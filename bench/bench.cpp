@@ -1,7 +1,8 @@
 // Conversion time and memory by model size. Generates s2k models of growing
 // size (joints, frames, areas, sections, materials, restraints, offsets,
-// releases, springs, masses), converts each in a child process through ConvertPath with a
-// silent user interface, and prints time, peak memory and rows per second.
+// releases, springs, masses, local axes, diaphragms), converts each in a
+// child process through ConvertPath with a silent user interface, and
+// prints time, peak memory and rows per second.
 //
 //   quillmesh_bench [largest joint count, default 200000]
 #include <sys/resource.h>
@@ -39,7 +40,7 @@ struct Model {
 // A square grid of n joints; one frame per joint along the grid lines, an
 // area per hundred joints, a rigid zone and a release on every tenth frame.
 // With \p named, joints and frames get names that are not numbers.
-Model WriteModel(const std::filesystem::path& path, int n, bool named) {
+Model WriteModel(const std::filesystem::path& path, int n, bool named, bool springsAndMasses) {
   std::ofstream out(path);
   Model model;
   const std::string joint = named ? "J" : "";
@@ -135,6 +136,10 @@ Model WriteModel(const std::filesystem::path& path, int n, bool named) {
   out << "\n";
   model.rows += 2L * areas;
 
+  if (!springsAndMasses) {
+    out << "END TABLE DATA\n";
+    return model;
+  }
   // Springs: uncoupled on every tenth joint, coupled on every hundredth, line
   // springs on every tenth frame and on every area. Masses: one on every
   // joint and a second on every other joint, merged by name with the frame
@@ -166,6 +171,48 @@ Model WriteModel(const std::filesystem::path& path, int n, bool named) {
   out << "\nEND TABLE DATA\n";
   return model;
 }
+
+// Rows of a model: its lines of at least three characters that are not titles.
+long CountRows(const std::filesystem::path& path) {
+  std::ifstream in(path);
+  long rows = 0;
+  for (std::string line; std::getline(in, line);)
+    if (line.size() >= 3 && line.rfind("TABLE:", 0) != 0 && line.rfind("END", 0) != 0) ++rows;
+  return rows;
+}
+
+// Joints J1..Jn on a grid; a support on every tenth, local axes on every
+// fifth (half of them advanced), a diaphragm of ten joints with one mass.
+Model WriteSupportsModel(const std::filesystem::path& path, int joints) {
+  Model model;
+  std::ofstream out(path);
+  out << "TABLE:  \"PROGRAM CONTROL\"\n   CurrUnits=\"KN, m, C\"\n\n";
+  out << "TABLE:  \"JOINT COORDINATES\"\n";
+  for (int i = 1; i <= joints; ++i)
+    out << "   Joint=J" << i << "   CoordSys=GLOBAL   CoordType=Cartesian   GlobalX=" << i % 100
+        << "   GlobalY=" << i / 100 << "   GlobalZ=0\n";
+  out << "\nTABLE:  \"JOINT RESTRAINT ASSIGNMENTS\"\n";
+  for (int i = 1; i <= joints; i += 10) out << "   Joint=J" << i << "   U1=Yes   U2=Yes   U3=Yes\n";
+  out << "\nTABLE:  \"JOINT LOCAL AXES ASSIGNMENTS 1 - TYPICAL\"\n";
+  for (int i = 1; i <= joints; i += 5)
+    out << "   Joint=J" << i << "   AngleA=30   AngleB=0   AngleC=0   AdvanceAxes=" << (i % 10 == 1 ? "Yes" : "No")
+        << "\n";
+  out << "\nTABLE:  \"JOINT LOCAL AXES ASSIGNMENTS 2 - ADVANCED\"\n";
+  for (int i = 1; i <= joints; i += 10)
+    out << "   Joint=J" << i << "   LocalPlane=12   AxOption1=\"Two Joints\"   AxVecJt1=J" << i << "   AxVecJt2=J"
+        << i + 1 << "   PlOption1=\"Coord Dir\"   AxCoordDir=X   CoordDir1=Z\n";
+  out << "\nTABLE:  \"JOINT ADDED MASS ASSIGNMENTS\"\n";
+  for (int i = 1; i <= joints; i += 10) out << "   Joint=J" << i << "   CoordSys=GLOBAL   Mass1=1   Mass2=1\n";
+  out << "\nTABLE:  \"JOINT CONSTRAINT ASSIGNMENTS\"\n";
+  for (int i = 1; i <= joints; ++i) out << "   Joint=J" << i << "   Constraint=D" << (i - 1) / 10 << "   Type=Diaphragm\n";
+  out << "\nTABLE:  \"CONSTRAINT DEFINITIONS - DIAPHRAGM\"\n";
+  for (int d = 0; d <= (joints - 1) / 10; ++d) out << "   Name=D" << d << "   CoordSys=GLOBAL   Axis=Z\n";
+  out << "\nEND TABLE DATA\n";
+  out.close();
+  model.rows = CountRows(path);
+  return model;
+}
+
 
 struct Result {
   int code = -1;
@@ -212,16 +259,30 @@ int main(int argc, char** argv) {
   std::vector<int> sizes;
   for (int n = largest; n >= 200 && sizes.size() < 4; n /= 10) sizes.insert(sizes.begin(), n);
 
-  std::printf("%-9s %9s %9s %10s %10s %8s %9s %12s %8s %5s\n", "names", "joints", "frames", "rows", "mass rows",
+  // elements: joints, frames, areas, sections, materials, restraints, offsets
+  // and releases; full: the same with springs and masses; supports: joints
+  // with restraints, local axes, masses and diaphragms.
+  enum class Kind { Elements, Full, Supports };
+  struct Scenario {
+    const char* name;
+    Kind kind;
+    bool named;
+  };
+  const Scenario scenarios[] = {
+      {"elements", Kind::Elements, false}, {"elements", Kind::Elements, true}, {"full", Kind::Full, false},
+      {"full", Kind::Full, true},          {"supports", Kind::Supports, true},
+  };
+  std::printf("%-9s %-9s %9s %10s %10s %8s %9s %12s %8s %5s\n", "model", "names", "joints", "rows", "mass rows",
               "file MB", "seconds", "rows/second", "peak MB", "code");
-  for (bool named : {false, true}) {
+  for (const Scenario& scenario : scenarios) {
     for (int n : sizes) {
-      fs::path path = folder / ("model-" + std::to_string(n) + (named ? "-named" : "") + ".s2k");
-      Model model = WriteModel(path, n, named);
+      fs::path path = folder / "model.s2k";
+      Model model = scenario.kind == Kind::Supports ? WriteSupportsModel(path, n)
+                                                    : WriteModel(path, n, scenario.named, scenario.kind == Kind::Full);
       double megabytes = static_cast<double>(fs::file_size(path)) / (1024.0 * 1024.0);
       Result result = ConvertInChild(path);
-      std::printf("%-9s %9d %9d %10ld %10ld %8.1f %9.3f %12.0f %8ld %5d\n", named ? "renumber" : "numeric", n, n,
-                  model.rows, model.massRows, megabytes, result.seconds,
+      std::printf("%-9s %-9s %9d %10ld %10ld %8.1f %9.3f %12.0f %8ld %5d\n", scenario.name,
+                  scenario.named ? "renumber" : "numeric", n, model.rows, model.massRows, megabytes, result.seconds,
                   result.seconds > 0 ? static_cast<double>(model.rows) / result.seconds : 0.0, result.peakKb / 1024,
                   result.code);
       std::fflush(stdout);
