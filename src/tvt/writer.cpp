@@ -81,7 +81,7 @@ int CS2kConverter::WriteCommands() {
       nullptr,                               // 27 *SPLDCASE
       nullptr,                               // 28 *LOADTOMASS
       nullptr,                               // 29 *ANAL-CTRL
-      nullptr,                               // 30 *SPEC-CTRL
+      nullptr,                               // 30 spectrum control
       nullptr,                               // 31 *EIGEN-CTRL
       nullptr,                               // 32 *BUCK-CTRL
       nullptr,                               // 33 *TFUNCTION

@@ -201,7 +201,9 @@ TEST(Catalogue, HoldsEveryKeyAndTheFilterForS2kFiles) {
     bool takesArgument = std::string(key) == "IDS_S2KV8_OFFSET_REPLACE_GLOBAL" ||
                          std::string(key) == "IDS_S2KV8_NOCONVERT_VEHICLE";
     EXPECT_EQ(takesArgument ? 1u : 0u, formats) << key;
-    if (takesArgument) EXPECT_NE(std::string::npos, text.find("%s")) << key;
+    if (takesArgument) {
+      EXPECT_NE(std::string::npos, text.find("%s")) << key;
+    }
   }
   EXPECT_NE(std::string::npos, std::string(quillmesh::LoadMessage("IDS_S2KV8_FILE_FILTER")).find("*.s2k"));
 }
