@@ -157,7 +157,7 @@ void CS2kConverter::ApplyAdvancedLocalAxes(TvtLocalAxisRec& rec) {
   for (int k = 0; k < 3; ++k)
     sums[k] = std::pow(axes[k][0], 2) + std::pow(axes[k][1], 2) + std::pow(axes[k][2], 2);
   const double tolerance = targetModel->ZeroTolerance;
-  if (sums[0] >= tolerance && sums[1] >= tolerance && sums[2] >= tolerance)
+  if (!(sums[0] < tolerance || sums[1] < tolerance || sums[2] < tolerance))
     for (int k = 0; k < 3; ++k)
       for (int i = 0; i < 3; ++i) rotation.M[i][k] = axes[k][i] / std::sqrt(sums[k]);
   targetModel->StoreJointRotation(rotation, true);

@@ -209,4 +209,20 @@ TEST(ConvertJointLocalAxes, RecordsOnlyTurnedJointsAndReplacesForAdvancedAxes) {
   EXPECT_EQ(30, line->ANGLE_x);  // AngleC
 }
 
+// Only a sum below the limit keeps the global axes; a sum that is no number
+// (an infinite vector) is divided through like any other.
+TEST(ConvertJointLocalAxes, InfiniteVectorGivesNoNumberAxesNotGlobalOnes) {
+  Engine e;
+  e.engine.sourceModel->JointLocalAxes1.SetAt(1, S2kJointLocalAxes1Row{"far", 0, 0, 0, 1});
+  S2kJointLocalAxes2Row far;
+  far.Joint = "far";
+  far.LocalPlane = "12";
+  far.AxOption1 = far.PlOption1 = "User Vector";
+  far.AxVecX = INFINITY;
+  far.PlVecY = 1;
+  e.engine.sourceModel->JointLocalAxes2.SetAt(1, far);
+  ASSERT_EQ(1, e.engine.ConvertJointLocalAxes());
+  for (int i = 0; i < 3; ++i) EXPECT_TRUE(std::isnan(e.Rotation("far").M[i][1])) << i;
+}
+
 }  // namespace
