@@ -6,7 +6,7 @@
 
 // Rigid zones first, then joint offsets; a joint offset replaces the rigid
 // zone of its frame. Offsets in local axes are dropped.
-int CS2kConverter::ConvertEndOffsets() {
+int CS2kConverter::ConvertFrameOffsets() {
   auto& offsets = targetModel->Offsets;
   int counter = offsets.Count();
   int ok = 1;

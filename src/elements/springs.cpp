@@ -111,8 +111,6 @@ int CS2kConverter::ConvertLineSprings(int mode) {
   return 1;
 }
 
-int CS2kConverter::ConvertFrameSprings() { return ConvertLineSprings(1); }
-int CS2kConverter::ConvertAreaSprings() { return ConvertLineSprings(2); }
 
 int CS2kConverter::WriteSprings() {
   const auto& springs = targetModel->Springs;

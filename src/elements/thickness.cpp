@@ -19,7 +19,7 @@ int CS2kConverter::ConvertAreaSections() {
   return ok;
 }
 
-int CS2kConverter::WriteThickness() {
+int CS2kConverter::WriteThicknesses() {
   const auto& table = targetModel->Thickness;
   if (table.Empty()) return 1;
   if (elementFlags.AreaStiffModifiers) ShowMessage("IDS_S2KV8_AREA_Thik_Mod_Not_Confert");

@@ -101,11 +101,11 @@ int CS2kConverter::ConvertJointStep() {
 }
 
 int CS2kConverter::ConvertFrameStep() {
-  return ConvertFrames() && ConvertFrameReleases() && ConvertEndOffsets() && ConvertFrameSprings() &&
+  return ConvertFrames() && ConvertFrameReleases() && ConvertFrameOffsets() && ConvertLineSprings(1) &&
          ConvertFrameMasses();
 }
 
-int CS2kConverter::ConvertAreaStep() { return ConvertAreas() && ConvertAreaMasses() && ConvertAreaSprings(); }
+int CS2kConverter::ConvertAreaStep() { return ConvertAreas() && ConvertAreaMasses() && ConvertLineSprings(2); }
 
 int CS2kConverter::ConvertSolidStep() { return ConvertSolids(); }
 int CS2kConverter::ConvertAnalysisStep() { return ConvertStructType(); }

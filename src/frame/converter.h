@@ -223,7 +223,7 @@ class CS2kConverter {
 
   // ---- elements/thickness.cpp ---------------------------------------------------
   int ConvertAreaSections();
-  int WriteThickness();
+  int WriteThicknesses();
 
   // ---- elements/frames.cpp ------------------------------------------------------
   int ConvertFrames();
@@ -295,7 +295,7 @@ class CS2kConverter {
   CNameIndex<S2kSolidPropAssignRow> solidPropAssignRows{&S2kSolidPropAssignRow::Solid};
 
   // ---- elements/offsets.cpp -----------------------------------------------------
-  int ConvertEndOffsets();
+  int ConvertFrameOffsets();
   int ConvertFrameReleases();
   int WriteOffsets();
   int WriteFrameReleases();
@@ -331,8 +331,6 @@ class CS2kConverter {
   int ConvertCoupledSprings();
   /// Lumps line springs onto joints: \p mode 1 frames, 2 areas.
   int ConvertLineSprings(int mode);
-  int ConvertFrameSprings();
-  int ConvertAreaSprings();
   int WriteSprings();
   int WriteGeneralSprings();
   /// The first row in walk order of a frame or area name, or nullptr.

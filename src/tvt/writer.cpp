@@ -60,7 +60,7 @@ int CS2kConverter::WriteCommands() {
       &CS2kConverter::WriteMaterials,        // 6 *MATERIAL
       &CS2kConverter::WriteSections,         // 7 *SECTION
       &CS2kConverter::WriteSectionScales,    // 8 *SECT-SCALE
-      &CS2kConverter::WriteThickness,        // 9 *THICKNESS
+      &CS2kConverter::WriteThicknesses,      // 9 *THICKNESS
       &CS2kConverter::WriteConstraints,      // 10 *CONSTRAINT
       &CS2kConverter::WriteSprings,          // 11 *SPRING
       &CS2kConverter::WriteGeneralSprings,   // 12 *GSPRING, *GSPRTYPE
