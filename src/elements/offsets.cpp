@@ -139,13 +139,17 @@ int CS2kConverter::WriteFrameReleases() {
   WriteText("%s\n", "*FRAME-RLS    ; Beam End Release");
   WriteText("; ELEM_LIST, FLAG-i, Fxi, Fyi, Fzi, Mxi, Myi, Mzi        ; 1st line\n");
   WriteText(";            FLAG-j, Fxj, Fyj, Fzj, Mxj, Myj, Mzj, GROUP ; 2nd line\n");
-  table.ForEachKey([&](int, const TvtFrameRlsRec& rec) {
+  // Keys follow the release rows, so a conversion cut short leaves gaps: a
+  // missing key writes the record before it again, or an empty one.
+  TvtFrameRlsRec rec;
+  for (int key = 1; key <= table.Count(); ++key) {
+    table.Lookup(key, rec);
     int number = ElementNumberOf(rec.ELEM_LIST, "FRAME");
     WriteText("\t%d, \t%s, %5g, %5g, %5g, %5g, %5g, %5g\n", number, rec.FLAG_i.c_str(), rec.Fxi, rec.Fyi, rec.Fzi,
               rec.Mxi, rec.Myi, rec.Mzi);
     WriteText("\t\t%s, %5g, %5g, %5g, %5g, %5g, %5g,\n", rec.FLAG_j.c_str(), rec.Fxj, rec.Fyj, rec.Fzj, rec.Mxj,
               rec.Myj, rec.Mzj);
-  });
+  }
   WriteText("\n");
   return 1;
 }
