@@ -139,13 +139,13 @@ int CS2kConverter::ParseSolidSummary() { return ParseRows(kSolidSummaryKeys, sou
 
 const std::vector<S2kTableParser>& ElementTableParsers() {
   static const std::vector<S2kTableParser> parsers = {
-      {125, &CS2kConverter::ParseAreaSectionAssign}, {126, &CS2kConverter::ParseAreaSection},
-      {201, &CS2kConverter::ParseConnectivityArea},  {202, &CS2kConverter::ParseConnectivityFrame},
-      {204, &CS2kConverter::ParseConnectivitySolid}, {239, &CS2kConverter::ParseFrameLocalAxes1},
-      {240, &CS2kConverter::ParseFrameLocalAxes2},   {243, &CS2kConverter::ParseFrameOffset},
-      {250, &CS2kConverter::ParseFrameRelease},      {251, &CS2kConverter::ParseFramePartialFix},
-      {489, &CS2kConverter::ParseSolidPropAssign},   {490, &CS2kConverter::ParseSolidProp},
-      {505, &CS2kConverter::ParseSolidSummary},
+      {125, RunStep<&CS2kConverter::ParseAreaSectionAssign>}, {126, RunStep<&CS2kConverter::ParseAreaSection>},
+      {201, RunStep<&CS2kConverter::ParseConnectivityArea>},  {202, RunStep<&CS2kConverter::ParseConnectivityFrame>},
+      {204, RunStep<&CS2kConverter::ParseConnectivitySolid>}, {239, RunStep<&CS2kConverter::ParseFrameLocalAxes1>},
+      {240, RunStep<&CS2kConverter::ParseFrameLocalAxes2>},   {243, RunStep<&CS2kConverter::ParseFrameOffset>},
+      {250, RunStep<&CS2kConverter::ParseFrameRelease>},      {251, RunStep<&CS2kConverter::ParseFramePartialFix>},
+      {489, RunStep<&CS2kConverter::ParseSolidPropAssign>},   {490, RunStep<&CS2kConverter::ParseSolidProp>},
+      {505, RunStep<&CS2kConverter::ParseSolidSummary>},
   };
   return parsers;
 }

@@ -156,13 +156,13 @@ int CS2kConverter::ParseMaterial2() { return ParseRows(kMaterial2Keys, sourceMod
 
 const std::vector<S2kTableParser>& PropertyTableParsers() {
   static const std::vector<S2kTableParser> parsers = {
-      {234, &CS2kConverter::ParseFrameInsertion},
-      {248, &CS2kConverter::ParseFrameModifiers},
-      {252, &CS2kConverter::ParseFrameSectionAssign},
-      {253, &CS2kConverter::ParseFrameSection},
-      {257, &CS2kConverter::ParseFrameNonprismatic},
-      {381, &CS2kConverter::ParseMaterial1},
-      {382, &CS2kConverter::ParseMaterial2},
+      {234, RunStep<&CS2kConverter::ParseFrameInsertion>},
+      {248, RunStep<&CS2kConverter::ParseFrameModifiers>},
+      {252, RunStep<&CS2kConverter::ParseFrameSectionAssign>},
+      {253, RunStep<&CS2kConverter::ParseFrameSection>},
+      {257, RunStep<&CS2kConverter::ParseFrameNonprismatic>},
+      {381, RunStep<&CS2kConverter::ParseMaterial1>},
+      {382, RunStep<&CS2kConverter::ParseMaterial2>},
   };
   return parsers;
 }

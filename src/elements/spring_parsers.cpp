@@ -62,10 +62,10 @@ int CS2kConverter::ParseAreaSprings() { return ParseRows(kAreaSpringKeys, source
 
 const std::vector<S2kTableParser>& SpringTableParsers() {
   static const std::vector<S2kTableParser> parsers = {
-      {127, &CS2kConverter::ParseAreaSprings},
-      {258, &CS2kConverter::ParseFrameSprings},
-      {342, &CS2kConverter::ParseJointSprings},
-      {343, &CS2kConverter::ParseJointCoupledSprings},
+      {127, RunStep<&CS2kConverter::ParseAreaSprings>},
+      {258, RunStep<&CS2kConverter::ParseFrameSprings>},
+      {342, RunStep<&CS2kConverter::ParseJointSprings>},
+      {343, RunStep<&CS2kConverter::ParseJointCoupledSprings>},
   };
   return parsers;
 }

@@ -4,6 +4,7 @@
 #include <cstdio>
 
 #include "frame/messages.h"
+#include "frame/steps.h"
 
 CS2kConverter::CS2kConverter(quillmesh::UserInterface& ui)
     : ui_(ui), sourceModel(std::make_unique<CS2kModel>()),
@@ -28,6 +29,7 @@ void CS2kConverter::ShowMessage(const char* key, const std::string& argument) {
 }
 
 void CS2kConverter::ResetConversion() {
+  subjects_.clear();
   geometryFlags = {};
   massFlags = {};
   propertyFlags = {};
@@ -57,55 +59,19 @@ int CS2kConverter::Run(const std::string& inputPath) {
   return code;
 }
 
-// Conversion steps; the bar advances to each step's number. Frames refer to
-// nodes, and load cases and sections come after the elements that use them.
-int CS2kConverter::ConvertModel() {
-  using Step = int (CS2kConverter::*)();
-  static constexpr Step kSteps[19] = {
-      &CS2kConverter::ConvertJointStep,     // 1 joints
-      &CS2kConverter::ConvertFrameStep,     // 2 frames
-      nullptr,                              // 3 links
-      &CS2kConverter::ConvertAreaStep,      // 4 areas
-      &CS2kConverter::ConvertSolidStep,     // 5 solids
-      nullptr,                              // 6 load cases
-      &CS2kConverter::ConvertMaterials,     // 7 materials
-      &CS2kConverter::ConvertFrameSections, // 8 frame sections, nonprismatic sections, scale factors
-      &CS2kConverter::ConvertAreaSections,  // 9 area sections to thickness
-      nullptr,                              // 10 lanes
-      nullptr,                              // 11 vehicles of table 162
-      nullptr,                              // 12 vehicles of tables 163 and 164
-      nullptr,                              // 13 vehicle classes
-      nullptr,                              // 14 moving load cases
-      nullptr,                              // 15 spectrum functions
-      nullptr,                              // 16 spectrum load cases
-      &CS2kConverter::ConvertAnalysisStep,  // 17 analysis cases, mass source, *STRUCTYPE
-      nullptr,                              // 18 *ANAL-CTRL
-      nullptr,                              // 19 load combinations
-  };
-  ui_.SetStage(2);
-  ui_.SetRange(20);
-  targetModel->Reset();
-  for (int i = 0; i < 19; ++i) {
-    if (kSteps[i] && !(this->*kSteps[i])()) return -1;
-    if (!ui_.Advance(i + 1)) return 1;
+int CS2kConverter::RunSteps(std::span<const SRunStep> steps, int count) {
+  std::size_t row = 0;
+  for (int number = 1; number <= count; ++number) {
+    for (; row < steps.size() && steps[row].number == number; ++row)
+      if (!steps[row].run(*this)) return -1;
+    if (!ui_.Advance(number)) return 1;
   }
   return 0;
 }
 
-// Joints first: every later step names them. The joint number map comes
-// last, once all joints are known.
-int CS2kConverter::ConvertJointStep() {
-  return ConvertJoints() && ConvertRestraints() && ConvertJointLocalAxes() && ConvertJointSprings() &&
-         ConvertCoupledSprings() && ConvertJointMasses() && ConvertConstraints() &&
-         (targetModel->jointsKeepNumbers || BuildJointNumberMap());
+int CS2kConverter::ConvertModel() {
+  ui_.SetStage(2);
+  ui_.SetRange(kConversionStepCount + 1);
+  targetModel->Reset();
+  return RunSteps(ConversionSteps(), kConversionStepCount);
 }
-
-int CS2kConverter::ConvertFrameStep() {
-  return ConvertFrames() && ConvertFrameReleases() && ConvertFrameOffsets() && ConvertLineSprings(1) &&
-         ConvertFrameMasses();
-}
-
-int CS2kConverter::ConvertAreaStep() { return ConvertAreas() && ConvertAreaMasses() && ConvertLineSprings(2); }
-
-int CS2kConverter::ConvertSolidStep() { return ConvertSolids(); }
-int CS2kConverter::ConvertAnalysisStep() { return ConvertStructType(); }

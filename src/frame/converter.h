@@ -5,9 +5,12 @@
 #include <cstdio>
 #include <initializer_list>
 #include <memory>
+#include <span>
 #include <string>
 #include <vector>
 
+#include "frame/steps.h"
+#include "frame/subject.h"
 #include "tvt/output_file.h"
 #include "quillmesh/quillmesh.hpp"
 #include "s2k/input_file.h"
@@ -15,14 +18,6 @@
 #include "s2k/keyed_table.h"
 #include "s2k/model.h"
 #include "tvt/model.h"
-
-class CS2kConverter;
-
-/// A table id and the member that parses its rows.
-struct S2kTableParser {
-  int tableId;
-  int (CS2kConverter::*parse)();
-};
 
 class CS2kConverter {
  public:
@@ -34,9 +29,21 @@ class CS2kConverter {
   /// Reads, converts and writes. \returns 0 finished, 1 stopped, -1 failed.
   int Run(const std::string& inputPath);
 
+  /// The subject of type \p T of this run, made on first use.
+  template <class T>
+  T& Get() {
+    const std::size_t id = SubjectId<T>();
+    if (id >= subjects_.size()) subjects_.resize(id + 1);
+    if (!subjects_[id]) subjects_[id] = std::make_unique<T>(*this);
+    return static_cast<T&>(*subjects_[id]);
+  }
+
   // ---- frame/converter.cpp: the run and its stages -------------------------
   void ResetConversion();
   int ConvertModel();
+  /// Runs the rows of \p steps, advancing the bar after each of the \p count
+  /// numbers. \returns 0, 1 when the user stopped, -1 when a step failed.
+  int RunSteps(std::span<const SRunStep> steps, int count);
   /// Shows the catalogue's text of \p key and waits for OK.
   void ShowMessage(const char* key);
   /// The same for the catalogue texts that take one text argument.
@@ -44,6 +51,8 @@ class CS2kConverter {
 
   // ---- s2k/reader.cpp: lines to rows -----------------------------------------
   int ReadTables();
+  /// The rows of the table being parsed, one text per row.
+  const std::vector<std::string>& TableRows() const { return rowRows; }
 
   // ---- s2k/recognition.cpp: titles to tables ---------------------------------
   int RecogniseTable(const std::string& titleLine) const;
@@ -122,6 +131,8 @@ class CS2kConverter {
   // ---- geometry/joints.cpp ------------------------------------------------------
   int ConvertJoints();
   int BuildJointNumberMap();
+  /// The joint number map, made only when joints are renumbered.
+  int BuildJointNumberMapIfRenumbered();
   int WriteNodes();
   /// The node number of a joint name, as every writer takes it: under
   /// renumbering 0 for a name that is no joint's, else atoi of the name.
@@ -343,15 +354,10 @@ class CS2kConverter {
   CNameIndex<S2kConnectivityFrameRow> frameConnectivityByName{&S2kConnectivityFrameRow::Frame};
   CNameIndex<S2kConnectivityAreaRow> areaConnectivityByName{&S2kConnectivityAreaRow::Area};
 
-  // ---- conversion steps ---------------------------------------------------------
-  int ConvertJointStep();
-  int ConvertFrameStep();
-  int ConvertAreaStep();
-  int ConvertSolidStep();
-  int ConvertAnalysisStep();
 
  private:
   quillmesh::UserInterface& ui_;
+  std::vector<std::unique_ptr<CSubject>> subjects_;
 
  public:
   S2kInputFile inputFile;
@@ -385,3 +391,23 @@ class CS2kConverter {
   ElementRunFlags elementFlags;
   SpringRunFlags springFlags;
 };
+
+template <class Class>
+Class& SubjectOf(CS2kConverter& engine) {
+  if constexpr (std::is_same_v<Class, CS2kConverter>)
+    return engine;
+  else
+    return engine.Get<Class>();
+}
+
+template <auto Member, auto... Values>
+int RunStep(CS2kConverter& engine) {
+  using Class = typename subject_detail::MemberOf<decltype(Member)>::Class;
+  return (SubjectOf<Class>(engine).*Member)(Values...);
+}
+
+template <auto Member>
+int RunCaseStep(CS2kConverter& engine, const std::string& loadCase) {
+  using Class = typename subject_detail::MemberOf<decltype(Member)>::Class;
+  return (SubjectOf<Class>(engine).*Member)(loadCase);
+}

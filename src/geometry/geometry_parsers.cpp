@@ -107,14 +107,14 @@ int CS2kConverter::ParseJointLocalAxes2() { return ParseRows(kLocalAxesAdvancedK
 
 const std::vector<S2kTableParser>& GeometryTableParsers() {
   static const std::vector<S2kTableParser> parsers = {
-      {104, &CS2kConverter::ParseCoordinateSystem},     {108, &CS2kConverter::ParseProgramControl},
-      {211, &CS2kConverter::ParseConstraintBeam},       {212, &CS2kConverter::ParseConstraintBody},
-      {213, &CS2kConverter::ParseConstraintDiaphragm},  {214, &CS2kConverter::ParseConstraintEqual},
-      {215, &CS2kConverter::ParseConstraintLine},       {217, &CS2kConverter::ParseConstraintPlate},
-      {218, &CS2kConverter::ParseConstraintRod},        {219, &CS2kConverter::ParseConstraintWeld},
-      {331, &CS2kConverter::ParseJointMasses},          {332, &CS2kConverter::ParseJointConstraints},
-      {333, &CS2kConverter::ParseJointCoordinates},     {336, &CS2kConverter::ParseJointLocalAxes1},
-      {337, &CS2kConverter::ParseJointLocalAxes2},      {341, &CS2kConverter::ParseJointRestraints},
+      {104, RunStep<&CS2kConverter::ParseCoordinateSystem>},     {108, RunStep<&CS2kConverter::ParseProgramControl>},
+      {211, RunStep<&CS2kConverter::ParseConstraintBeam>},       {212, RunStep<&CS2kConverter::ParseConstraintBody>},
+      {213, RunStep<&CS2kConverter::ParseConstraintDiaphragm>},  {214, RunStep<&CS2kConverter::ParseConstraintEqual>},
+      {215, RunStep<&CS2kConverter::ParseConstraintLine>},       {217, RunStep<&CS2kConverter::ParseConstraintPlate>},
+      {218, RunStep<&CS2kConverter::ParseConstraintRod>},        {219, RunStep<&CS2kConverter::ParseConstraintWeld>},
+      {331, RunStep<&CS2kConverter::ParseJointMasses>},          {332, RunStep<&CS2kConverter::ParseJointConstraints>},
+      {333, RunStep<&CS2kConverter::ParseJointCoordinates>},     {336, RunStep<&CS2kConverter::ParseJointLocalAxes1>},
+      {337, RunStep<&CS2kConverter::ParseJointLocalAxes2>},      {341, RunStep<&CS2kConverter::ParseJointRestraints>},
   };
   return parsers;
 }

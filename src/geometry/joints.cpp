@@ -39,6 +39,10 @@ int CS2kConverter::BuildJointNumberMap() {
   return ok;
 }
 
+int CS2kConverter::BuildJointNumberMapIfRenumbered() {
+  return targetModel->jointsKeepNumbers || BuildJointNumberMap();
+}
+
 int CS2kConverter::WriteNodes() {
   const CKeyedTable<TvtNodeRec>& nodes = targetModel->Nodes;
   if (nodes.Empty()) return 1;

@@ -20,8 +20,8 @@ int CS2kConverter::ParseAreaMasses() { return ParseRows(kAreaMassKeys, sourceMod
 
 const std::vector<S2kTableParser>& MassTableParsers() {
   static const std::vector<S2kTableParser> parsers = {
-      {111, &CS2kConverter::ParseAreaMasses},
-      {231, &CS2kConverter::ParseFrameMasses},
+      {111, RunStep<&CS2kConverter::ParseAreaMasses>},
+      {231, RunStep<&CS2kConverter::ParseFrameMasses>},
   };
   return parsers;
 }

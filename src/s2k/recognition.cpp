@@ -3,6 +3,7 @@
 
 #include "frame/converter.h"
 #include "s2k/keys.h"
+#include "frame/steps.h"
 #include "s2k/table_parsers.h"
 #include "s2k/table_titles.h"
 
@@ -13,13 +14,12 @@ constexpr int kLastId = 505;
 
 // What ParseTable does for each id, gathered once from every subject.
 struct TableActions {
-  std::array<int (CS2kConverter::*)(), kLastId + 1> parse{};
+  std::array<StepFunction, kLastId + 1> parse{};
   std::array<const char*, kLastId + 1> warning{};
 
   TableActions() {
-    for (auto* list : {&FrameTableParsers, &StoredTableParsers, &GeometryTableParsers, &MassTableParsers,
-                       &PropertyTableParsers, &ElementTableParsers, &SpringTableParsers})
-      for (const S2kTableParser& entry : list()) parse[entry.tableId] = entry.parse;
+    for (const std::vector<S2kTableParser>* list : TableParserLists())
+      for (const S2kTableParser& entry : *list) parse[entry.tableId] = entry.parse;
     for (const S2kWarningTable& entry : kWarningTables) warning[entry.tableId] = entry.key;
   }
 };
@@ -51,7 +51,7 @@ int CS2kConverter::RecogniseMember(const std::string& titleLine, int index) cons
 int CS2kConverter::ParseTable(int tableId) {
   if (tableId < kFirstId || tableId > kLastId) return 1;
   const TableActions& actions = Actions();
-  if (auto parse = actions.parse[tableId]) return (this->*parse)();
+  if (auto parse = actions.parse[tableId]) return parse(*this);
   if (const char* key = actions.warning[tableId]) ShowMessage(key);
   return 1;
 }

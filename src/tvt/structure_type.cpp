@@ -13,7 +13,7 @@ constexpr S2kField<S2kActiveDofRec> kActiveDofKeys[] = {
 }  // namespace
 
 const std::vector<S2kTableParser>& FrameTableParsers() {
-  static const std::vector<S2kTableParser> parsers = {{101, &CS2kConverter::ParseActiveDof}};
+  static const std::vector<S2kTableParser> parsers = {{101, RunStep<&CS2kConverter::ParseActiveDof>}};
   return parsers;
 }
 

@@ -3,6 +3,7 @@
 #include <cstdio>
 
 #include "frame/converter.h"
+#include "frame/steps.h"
 #include "s2k/keys.h"
 
 int CS2kConverter::WriteText(const char* format, ...) {
@@ -47,55 +48,9 @@ int CS2kConverter::WriteOutput(const std::string& inputPath) {
   return 0;
 }
 
-// Writer steps; the bar advances to each step's number. Element numbers exist
-// only once *ELEMENT is written, so the commands that print them follow it.
 int CS2kConverter::WriteCommands() {
-  using Step = int (CS2kConverter::*)();
-  static constexpr Step kSteps[37] = {
-      &CS2kConverter::WriteVersionAndUnits,  // 1 *VERSION, *UNIT
-      &CS2kConverter::WriteStructType,       // 2 *STRUCTYPE
-      &CS2kConverter::WriteNodes,            // 3 *NODE
-      &CS2kConverter::WriteLocalAxes,        // 4 *LOCALAXIS
-      &CS2kConverter::WriteElements,         // 5 *ELEMENT
-      &CS2kConverter::WriteMaterials,        // 6 *MATERIAL
-      &CS2kConverter::WriteSections,         // 7 *SECTION
-      &CS2kConverter::WriteSectionScales,    // 8 *SECT-SCALE
-      &CS2kConverter::WriteThicknesses,      // 9 *THICKNESS
-      &CS2kConverter::WriteConstraints,      // 10 *CONSTRAINT
-      &CS2kConverter::WriteSprings,          // 11 *SPRING
-      &CS2kConverter::WriteGeneralSprings,   // 12 *GSPRING, *GSPRTYPE
-      nullptr,                               // 13 *STLDCASE and the load blocks of each case
-      &CS2kConverter::WriteNodalMasses,      // 14 *NODALMASS
-      &CS2kConverter::WriteOffsets,          // 15 *OFFSET
-      &CS2kConverter::WriteFrameReleases,    // 16 *FRAME-RLS
-      nullptr,                               // 17 *INIFORCE
-      nullptr,                               // 18 *ELASTICLINK
-      nullptr,                               // 19 *NL-PROP
-      nullptr,                               // 20 *NL-LINK
-      &CS2kConverter::WriteRigidLinks,       // 21 *RIGIDLINK
-      nullptr,                               // 22 *LINELANE
-      nullptr,                               // 23 *VEHICLE
-      nullptr,                               // 24 *VCLASS
-      nullptr,                               // 25 *MVLDCASE
-      nullptr,                               // 26 *SFUNCTION
-      nullptr,                               // 27 *SPLDCASE
-      nullptr,                               // 28 *LOADTOMASS
-      nullptr,                               // 29 *ANAL-CTRL
-      nullptr,                               // 30 spectrum control
-      nullptr,                               // 31 *EIGEN-CTRL
-      nullptr,                               // 32 *BUCK-CTRL
-      nullptr,                               // 33 *TFUNCTION
-      nullptr,                               // 34 *THLDCASE
-      nullptr,                               // 35 *GROUND-ACC
-      nullptr,                               // 36 *DYN-SLOAD
-      nullptr,                               // 37 *LOADCOMB
-  };
-  ui_.SetRange(37);
-  for (int i = 0; i < 37; ++i) {
-    if (kSteps[i] && !(this->*kSteps[i])()) return -1;
-    if (!ui_.Advance(i + 1)) return 1;
-  }
-  return 0;
+  ui_.SetRange(kWriterStepCount);
+  return RunSteps(WriterSteps(), kWriterStepCount);
 }
 
 int CS2kConverter::WriteVersionAndUnits() {

@@ -4,6 +4,7 @@
 #include <map>
 
 #include "frame/converter.h"
+#include "frame/steps.h"
 #include "recording_ui.h"
 #include "s2k/fields.h"
 #include "s2k/table_parsers.h"
@@ -106,9 +107,8 @@ TEST(Recognition, FirstWordAtColumnNineThenTheFirstMemberWordAnywhere) {
 
 TEST(Recognition, EveryTableHasOneParserOrOneWarningAtMost) {
   std::map<int, int> owners;
-  for (auto* list : {&FrameTableParsers, &StoredTableParsers, &GeometryTableParsers, &MassTableParsers,
-                     &PropertyTableParsers, &ElementTableParsers, &SpringTableParsers})
-    for (const S2kTableParser& entry : list()) ++owners[entry.tableId];
+  for (const std::vector<S2kTableParser>* list : TableParserLists())
+    for (const S2kTableParser& entry : *list) ++owners[entry.tableId];
   for (const S2kWarningTable& entry : kWarningTables) ++owners[entry.tableId];
   for (const auto& [id, count] : owners) EXPECT_EQ(1, count) << "table " << id;
 }

@@ -1,0 +1,88 @@
+// The step tables: which subject does what, in the order of the run. Frames
+// refer to nodes, load cases and sections come after the elements that use
+// them; element numbers exist only once *ELEMENT is written, so the commands
+// that print them follow it.
+#include "frame/steps.h"
+
+#include "frame/converter.h"
+#include "s2k/table_parsers.h"
+
+namespace {
+
+using E = CS2kConverter;
+
+constexpr SRunStep kConversionSteps[] = {
+    // 1 joints; the joint number map comes last, once all joints are known
+    {1, RunStep<&E::ConvertJoints>},
+    {1, RunStep<&E::ConvertRestraints>},
+    {1, RunStep<&E::ConvertJointLocalAxes>},
+    {1, RunStep<&E::ConvertJointSprings>},
+    {1, RunStep<&E::ConvertCoupledSprings>},
+    {1, RunStep<&E::ConvertJointMasses>},
+    {1, RunStep<&E::ConvertConstraints>},
+    {1, RunStep<&E::BuildJointNumberMapIfRenumbered>},
+    // 2 frames
+    {2, RunStep<&E::ConvertFrames>},
+    {2, RunStep<&E::ConvertFrameReleases>},
+    {2, RunStep<&E::ConvertFrameOffsets>},
+    {2, RunStep<&E::ConvertLineSprings, 1>},
+    {2, RunStep<&E::ConvertFrameMasses>},
+    // 3 links
+    // 4 areas
+    {4, RunStep<&E::ConvertAreas>},
+    {4, RunStep<&E::ConvertAreaMasses>},
+    {4, RunStep<&E::ConvertLineSprings, 2>},
+    // 5 solids
+    {5, RunStep<&E::ConvertSolids>},
+    // 6 load cases
+    // 7 materials
+    {7, RunStep<&E::ConvertMaterials>},
+    // 8 frame sections, nonprismatic sections, scale factors
+    {8, RunStep<&E::ConvertFrameSections>},
+    // 9 area sections to thickness
+    {9, RunStep<&E::ConvertAreaSections>},
+    // 10 lanes; 11 vehicles of table 162; 12 vehicles of tables 163 and 164;
+    // 13 vehicle classes; 14 moving load cases; 15 spectrum functions;
+    // 16 spectrum load cases
+    // 17 analysis cases, mass source, *STRUCTYPE
+    {17, RunStep<&E::ConvertStructType>},
+    // 18 *ANAL-CTRL; 19 load combinations
+};
+
+constexpr SRunStep kWriterSteps[] = {
+    {1, RunStep<&E::WriteVersionAndUnits>},  // *VERSION, *UNIT
+    {2, RunStep<&E::WriteStructType>},       // *STRUCTYPE
+    {3, RunStep<&E::WriteNodes>},            // *NODE
+    {4, RunStep<&E::WriteLocalAxes>},        // *LOCALAXIS
+    {5, RunStep<&E::WriteElements>},         // *ELEMENT
+    {6, RunStep<&E::WriteMaterials>},        // *MATERIAL
+    {7, RunStep<&E::WriteSections>},         // *SECTION
+    {8, RunStep<&E::WriteSectionScales>},    // *SECT-SCALE
+    {9, RunStep<&E::WriteThicknesses>},      // *THICKNESS
+    {10, RunStep<&E::WriteConstraints>},     // *CONSTRAINT
+    {11, RunStep<&E::WriteSprings>},         // *SPRING
+    {12, RunStep<&E::WriteGeneralSprings>},  // *GSPRING, *GSPRTYPE
+    // 13 *STLDCASE and the load blocks of each case
+    {14, RunStep<&E::WriteNodalMasses>},     // *NODALMASS
+    {15, RunStep<&E::WriteOffsets>},         // *OFFSET
+    {16, RunStep<&E::WriteFrameReleases>},   // *FRAME-RLS
+    // 17 *INIFORCE; 18 *ELASTICLINK; 19 *NL-PROP; 20 *NL-LINK
+    {21, RunStep<&E::WriteRigidLinks>},      // *RIGIDLINK
+    // 22 *LINELANE; 23 *VEHICLE; 24 *VCLASS; 25 *MVLDCASE; 26 *SFUNCTION;
+    // 27 *SPLDCASE; 28 *LOADTOMASS; 29 *ANAL-CTRL; 30 spectrum control;
+    // 31 *EIGEN-CTRL; 32 *BUCK-CTRL; 33 *TFUNCTION; 34 *THLDCASE;
+    // 35 *GROUND-ACC; 36 *DYN-SLOAD; 37 *LOADCOMB
+};
+
+}  // namespace
+
+std::span<const SRunStep> ConversionSteps() { return kConversionSteps; }
+std::span<const SRunStep> WriterSteps() { return kWriterSteps; }
+
+std::span<const std::vector<S2kTableParser>* const> TableParserLists() {
+  static const std::vector<S2kTableParser>* const lists[] = {
+      &FrameTableParsers(),    &StoredTableParsers(),  &GeometryTableParsers(), &MassTableParsers(),
+      &PropertyTableParsers(), &ElementTableParsers(), &SpringTableParsers(),
+  };
+  return lists;
+}
