@@ -4,7 +4,9 @@
 // that print them follow it.
 #include "frame/steps.h"
 
+#include "dynamics/analysis_controls.h"
 #include "frame/converter.h"
+#include "loads/load_cases.h"
 #include "s2k/table_parsers.h"
 
 namespace {
@@ -34,7 +36,8 @@ constexpr SRunStep kConversionSteps[] = {
     {4, RunStep<&E::ConvertLineSprings, 2>},
     // 5 solids
     {5, RunStep<&E::ConvertSolids>},
-    // 6 load cases
+    // 6 load cases: self weight
+    {6, RunStep<&CLoadCases::ConvertSelfWeight>},
     // 7 materials
     {7, RunStep<&E::ConvertMaterials>},
     // 8 frame sections, nonprismatic sections, scale factors
@@ -45,6 +48,7 @@ constexpr SRunStep kConversionSteps[] = {
     // 13 vehicle classes; 14 moving load cases; 15 spectrum functions;
     // 16 spectrum load cases
     // 17 analysis cases, mass source, *STRUCTYPE
+    {17, RunStep<&CAnalysisControls::ConvertAnalysisCases>},
     {17, RunStep<&E::ConvertStructType>},
     // 18 *ANAL-CTRL; 19 load combinations
 };
@@ -62,7 +66,7 @@ constexpr SRunStep kWriterSteps[] = {
     {10, RunStep<&E::WriteConstraints>},     // *CONSTRAINT
     {11, RunStep<&E::WriteSprings>},         // *SPRING
     {12, RunStep<&E::WriteGeneralSprings>},  // *GSPRING, *GSPRTYPE
-    // 13 *STLDCASE and the load blocks of each case
+    {13, RunStep<&CLoadCases::WriteStaticLoads>},  // *STLDCASE and the load blocks of each case
     {14, RunStep<&E::WriteNodalMasses>},     // *NODALMASS
     {15, RunStep<&E::WriteOffsets>},         // *OFFSET
     {16, RunStep<&E::WriteFrameReleases>},   // *FRAME-RLS
@@ -70,8 +74,9 @@ constexpr SRunStep kWriterSteps[] = {
     {21, RunStep<&E::WriteRigidLinks>},      // *RIGIDLINK
     // 22 *LINELANE; 23 *VEHICLE; 24 *VCLASS; 25 *MVLDCASE; 26 *SFUNCTION;
     // 27 *SPLDCASE; 28 *LOADTOMASS; 29 *ANAL-CTRL; 30 spectrum control;
-    // 31 *EIGEN-CTRL; 32 *BUCK-CTRL; 33 *TFUNCTION; 34 *THLDCASE;
-    // 35 *GROUND-ACC; 36 *DYN-SLOAD; 37 *LOADCOMB
+    // 31 *EIGEN-CTRL
+    {32, RunStep<&CAnalysisControls::WriteBuckCtrl>},  // *BUCK-CTRL
+    // 33 *TFUNCTION; 34 *THLDCASE; 35 *GROUND-ACC; 36 *DYN-SLOAD; 37 *LOADCOMB
 };
 
 }  // namespace
@@ -83,6 +88,8 @@ std::span<const std::vector<S2kTableParser>* const> TableParserLists() {
   static const std::vector<S2kTableParser>* const lists[] = {
       &FrameTableParsers(),    &StoredTableParsers(),  &GeometryTableParsers(), &MassTableParsers(),
       &PropertyTableParsers(), &ElementTableParsers(), &SpringTableParsers(),
+      &LoadCaseTableParsers(),
+      &AnalysisTableParsers(),
   };
   return lists;
 }

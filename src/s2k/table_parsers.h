@@ -12,3 +12,5 @@ const std::vector<S2kTableParser>& ElementTableParsers();
 const std::vector<S2kTableParser>& MassTableParsers();
 const std::vector<S2kTableParser>& PropertyTableParsers();
 const std::vector<S2kTableParser>& SpringTableParsers();
+const std::vector<S2kTableParser>& LoadCaseTableParsers();
+const std::vector<S2kTableParser>& AnalysisTableParsers();

@@ -1,0 +1,38 @@
+// The load blocks of each static case, in the order they stand in the file.
+#include "frame/converter.h"
+#include "loads/load_cases.h"
+
+namespace {
+
+/// A block writer; one with an automatic load type runs only for a case of
+/// that type that owns an automatic load.
+struct SCaseBlockWriter {
+  CaseStepFunction write;
+  const char* autoLoadType = nullptr;
+};
+
+const SCaseBlockWriter kCaseBlockWriters[] = {
+    // *CONLOAD (joint loads)
+    {RunCaseStep<&CLoadCases::WriteSelfWeight>},
+    // *BEAMLOAD (frame loads)
+    // *ELTEMPER (temperature loads)
+    // *NDTEMPER (temperature loads)
+    // *THERGRAD (temperature loads)
+    // *SPDISP (joint loads)
+    // *PRESTRESS (prestress loads)
+    // *PRESSURE (surface loads)
+    // *WIND, autoLoadType "W" (automatic loads)
+    // *SEIS, autoLoadType "E" (automatic loads)
+};
+
+}  // namespace
+
+int CLoadCases::WriteLoadCaseBlocks() {
+  staticCases_.Walk([&](int, const TvtStldcaseRec& rec) {
+    for (const SCaseBlockWriter& writer : kCaseBlockWriters) {
+      if (writer.autoLoadType && (rec.LCTYPE != writer.autoLoadType || !rec.bAutoLoad)) continue;
+      writer.write(engine, rec.LCNAME);
+    }
+  });
+  return 1;
+}
