@@ -6,6 +6,7 @@
 
 #include "dynamics/analysis_controls.h"
 #include "frame/converter.h"
+#include "loads/joint_loads.h"
 #include "loads/load_cases.h"
 #include "s2k/table_parsers.h"
 
@@ -20,8 +21,10 @@ constexpr SRunStep kConversionSteps[] = {
     {1, RunStep<&E::ConvertJointLocalAxes>},
     {1, RunStep<&E::ConvertJointSprings>},
     {1, RunStep<&E::ConvertCoupledSprings>},
+    {1, RunStep<&CJointLoads::ConvertJointForces>},
     {1, RunStep<&E::ConvertJointMasses>},
     {1, RunStep<&E::ConvertConstraints>},
+    {1, RunStep<&CJointLoads::ConvertJointGroundDisplacements>},
     {1, RunStep<&E::BuildJointNumberMapIfRenumbered>},
     // 2 frames
     {2, RunStep<&E::ConvertFrames>},
@@ -89,6 +92,7 @@ std::span<const std::vector<S2kTableParser>* const> TableParserLists() {
       &FrameTableParsers(),    &StoredTableParsers(),  &GeometryTableParsers(), &MassTableParsers(),
       &PropertyTableParsers(), &ElementTableParsers(), &SpringTableParsers(),
       &LoadCaseTableParsers(),
+      &JointLoadTableParsers(),
       &AnalysisTableParsers(),
   };
   return lists;

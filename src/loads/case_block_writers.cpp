@@ -1,5 +1,6 @@
 // The load blocks of each static case, in the order they stand in the file.
 #include "frame/converter.h"
+#include "loads/joint_loads.h"
 #include "loads/load_cases.h"
 
 namespace {
@@ -12,13 +13,13 @@ struct SCaseBlockWriter {
 };
 
 const SCaseBlockWriter kCaseBlockWriters[] = {
-    // *CONLOAD (joint loads)
+    {RunCaseStep<&CJointLoads::WriteConload>},
     {RunCaseStep<&CLoadCases::WriteSelfWeight>},
     // *BEAMLOAD (frame loads)
     // *ELTEMPER (temperature loads)
     // *NDTEMPER (temperature loads)
     // *THERGRAD (temperature loads)
-    // *SPDISP (joint loads)
+    {RunCaseStep<&CJointLoads::WriteSpdisp>},
     // *PRESTRESS (prestress loads)
     // *PRESSURE (surface loads)
     // *WIND, autoLoadType "W" (automatic loads)

@@ -13,4 +13,5 @@ const std::vector<S2kTableParser>& MassTableParsers();
 const std::vector<S2kTableParser>& PropertyTableParsers();
 const std::vector<S2kTableParser>& SpringTableParsers();
 const std::vector<S2kTableParser>& LoadCaseTableParsers();
+const std::vector<S2kTableParser>& JointLoadTableParsers();
 const std::vector<S2kTableParser>& AnalysisTableParsers();
