@@ -5,9 +5,11 @@
 #include "frame/steps.h"
 
 #include "dynamics/analysis_controls.h"
+#include "dynamics/response_spectrum.h"
 #include "frame/converter.h"
 #include "loads/joint_loads.h"
 #include "loads/load_cases.h"
+#include "loads/load_combinations.h"
 #include "s2k/table_parsers.h"
 
 namespace {
@@ -48,12 +50,14 @@ constexpr SRunStep kConversionSteps[] = {
     // 9 area sections to thickness
     {9, RunStep<&E::ConvertAreaSections>},
     // 10 lanes; 11 vehicles of table 162; 12 vehicles of tables 163 and 164;
-    // 13 vehicle classes; 14 moving load cases; 15 spectrum functions;
-    // 16 spectrum load cases
+    // 13 vehicle classes; 14 moving load cases
+    {15, RunStep<&CResponseSpectrum::ConvertSpectrumFunctions>},
+    {16, RunStep<&CResponseSpectrum::ConvertSpectrumLoads>},
     // 17 analysis cases, mass source, *STRUCTYPE
     {17, RunStep<&CAnalysisControls::ConvertAnalysisCases>},
     {17, RunStep<&E::ConvertStructType>},
-    // 18 *ANAL-CTRL; 19 load combinations
+    // 18 *ANAL-CTRL
+    {19, RunStep<&CLoadCombinations::ConvertCombinations>},
 };
 
 constexpr SRunStep kWriterSteps[] = {
@@ -75,11 +79,14 @@ constexpr SRunStep kWriterSteps[] = {
     {16, RunStep<&E::WriteFrameReleases>},   // *FRAME-RLS
     // 17 *INIFORCE; 18 *ELASTICLINK; 19 *NL-PROP; 20 *NL-LINK
     {21, RunStep<&E::WriteRigidLinks>},      // *RIGIDLINK
-    // 22 *LINELANE; 23 *VEHICLE; 24 *VCLASS; 25 *MVLDCASE; 26 *SFUNCTION;
-    // 27 *SPLDCASE; 28 *LOADTOMASS; 29 *ANAL-CTRL; 30 spectrum control;
+    // 22 *LINELANE; 23 *VEHICLE; 24 *VCLASS; 25 *MVLDCASE
+    {26, RunStep<&CResponseSpectrum::WriteSfunctions>},  // *SFUNCTION
+    {27, RunStep<&CResponseSpectrum::WriteSpldcases>},   // *SPLDCASE
+    // 28 *LOADTOMASS; 29 *ANAL-CTRL; 30 spectrum control;
     // 31 *EIGEN-CTRL
     {32, RunStep<&CAnalysisControls::WriteBuckCtrl>},  // *BUCK-CTRL
-    // 33 *TFUNCTION; 34 *THLDCASE; 35 *GROUND-ACC; 36 *DYN-SLOAD; 37 *LOADCOMB
+    // 33 *TFUNCTION; 34 *THLDCASE; 35 *GROUND-ACC; 36 *DYN-SLOAD
+    {37, RunStep<&CLoadCombinations::WriteLoadcomb>},  // *LOADCOMB
 };
 
 }  // namespace
@@ -94,6 +101,8 @@ std::span<const std::vector<S2kTableParser>* const> TableParserLists() {
       &LoadCaseTableParsers(),
       &JointLoadTableParsers(),
       &AnalysisTableParsers(),
+      &CombinationTableParsers(),
+      &SpectrumTableParsers(),
   };
   return lists;
 }

@@ -6,6 +6,7 @@
 
 #include "frame/converter.h"
 #include "loads/case_block.h"
+#include "loads/load_combinations.h"
 #include "s2k/table_parsers.h"
 
 namespace {
@@ -100,10 +101,6 @@ int CLoadCases::GetLoadCaseType(const std::string& LoadName, std::string& LCTYPE
   return 1;
 }
 
-bool CLoadCases::CombinationUsedUnknownCaseType() const {
-  return false;  // engine.Get<CLoadCombinations>().UsedUnknownCaseType()
-}
-
 int CLoadCases::WriteStaticLoads() {
   // The two results are not tested: a failed block ends nothing.
   if (WriteStaticLoadCases()) WriteLoadCaseBlocks();
@@ -112,7 +109,7 @@ int CLoadCases::WriteStaticLoads() {
 
 int CLoadCases::WriteStaticLoadCases() {
   if (staticCases_.Empty()) return 1;
-  if (CombinationUsedUnknownCaseType()) engine.ShowMessage("IDS_S2KV8_STLC_Not_Convert");
+  if (engine.Get<CLoadCombinations>().UsedUnknownCaseType()) engine.ShowMessage("IDS_S2KV8_STLC_Not_Convert");
   engine.WriteText("%s\n", "*STLDCASE    ; Static Load Cases");
   engine.WriteText("; LCNAME, LCTYPE, DESC\n");
   staticCases_.Walk([&](int, const TvtStldcaseRec& rec) {

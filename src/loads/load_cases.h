@@ -33,6 +33,8 @@ class CLoadCases : public CSubject {
   /// seismic load on the way. \returns 1 when the pattern exists; else the
   /// outputs stay as they were.
   int GetLoadCaseType(const std::string& LoadName, std::string& LCTYPE, int& bAutoLoad);
+  /// \returns 1 when a *STLDCASE row bears the name \p Name.
+  int IsStaticLoadCase(const std::string& Name) const { return staticCaseRows_.FindKey(staticCases_, Name) != 0; }
 
   /// Writer step 13: *STLDCASE, then the blocks of each case.
   int WriteStaticLoads();
@@ -52,9 +54,6 @@ class CLoadCases : public CSubject {
   }
 
  private:
-  /// Whether a combination named a case type it doesn't know.
-  bool CombinationUsedUnknownCaseType() const;
-
   CKeyedTable<S2kLoadRow> loads_;               // 107
   CKeyedTable<S2kCaseStatic1Row> caseStatic1_;  // 195
   CKeyedTable<TvtStldcaseRec> staticCases_;     // *STLDCASE
@@ -62,5 +61,6 @@ class CLoadCases : public CSubject {
 
   CNameIndex<S2kLoadRow> loadNames_{&S2kLoadRow::LoadCase};
   CNameIndex<S2kCaseStatic1Row> staticCaseNames_{&S2kCaseStatic1Row::Case};
+  CNameIndex<TvtStldcaseRec> staticCaseRows_{&TvtStldcaseRec::LCNAME};
   std::map<std::pair<const void*, int>, SCaseRowIndex> caseRowIndexes_;
 };
