@@ -57,6 +57,8 @@ constexpr SRunStep kConversionSteps[] = {
     {17, RunStep<&CAnalysisControls::ConvertAnalysisCases>},
     {17, RunStep<&E::ConvertStructType>},
     // 18 *ANAL-CTRL
+    {18, RunStep<&CAnalysisControls::ConvertAnalysisControl>},
+    // 19 load combinations
     {19, RunStep<&CLoadCombinations::ConvertCombinations>},
 };
 
@@ -82,8 +84,10 @@ constexpr SRunStep kWriterSteps[] = {
     // 22 *LINELANE; 23 *VEHICLE; 24 *VCLASS; 25 *MVLDCASE
     {26, RunStep<&CResponseSpectrum::WriteSfunctions>},  // *SFUNCTION
     {27, RunStep<&CResponseSpectrum::WriteSpldcases>},   // *SPLDCASE
-    // 28 *LOADTOMASS; 29 *ANAL-CTRL; 30 spectrum control;
-    // 31 *EIGEN-CTRL
+    {28, RunStep<&CAnalysisControls::WriteLoadToMass>},  // *LOADTOMASS
+    {29, RunStep<&CAnalysisControls::WriteAnalCtrl>},    // *ANAL-CTRL
+    {30, RunStep<&CAnalysisControls::WriteSpecCtrl>},    // *SPEC-CTRL
+    {31, RunStep<&CAnalysisControls::WriteEigenCtrl>},   // *EIGEN-CTRL
     {32, RunStep<&CAnalysisControls::WriteBuckCtrl>},  // *BUCK-CTRL
     // 33 *TFUNCTION; 34 *THLDCASE; 35 *GROUND-ACC; 36 *DYN-SLOAD
     {37, RunStep<&CLoadCombinations::WriteLoadcomb>},  // *LOADCOMB

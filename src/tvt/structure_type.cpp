@@ -1,4 +1,5 @@
 // *STRUCTYPE: the active degrees of freedom (table 101) and the record.
+#include "dynamics/analysis_controls.h"
 #include "frame/converter.h"
 #include "s2k/table_parsers.h"
 
@@ -38,8 +39,9 @@ int CS2kConverter::ConvertStructType() {
     rec.iSTYP = 3;
   else
     rec.iSTYP = 0;
-  // Masses from elements come with the mass source, not carried yet.
-  rec.iSMAS = 0;
+  // Masses from elements: by the structure type.
+  static constexpr int kMassKinds[] = {1, 3, 3, 2};
+  rec.iSMAS = Get<CAnalysisControls>().MassFromElements() ? kMassKinds[rec.iSTYP] : 0;
   rec.GRAV = GravityInModelUnits();
   rec.TEMPER = 0;
   rec.bALIGNBEAM = "NO";

@@ -1,0 +1,133 @@
+// The modal, spectrum, buckling, load-to-mass and analysis controls.
+#include "dynamics/analysis_controls.h"
+
+#include <cstdint>
+
+#include "frame/converter.h"
+#include "s2k/keys.h"
+#include "s2k/numbers.h"
+
+namespace {
+
+// Sums and differences of whole numbers wrap at 32 bits instead of trapping.
+int WrapAdd(int a, int b) { return static_cast<int>(static_cast<std::uint32_t>(a) + static_cast<std::uint32_t>(b)); }
+int WrapSub(int a, int b) { return static_cast<int>(static_cast<std::uint32_t>(a) - static_cast<std::uint32_t>(b)); }
+
+}  // namespace
+
+void CAnalysisControls::ConvertModalCase(const std::string& Case) {
+  // A later modal case replaces the earlier one entirely.
+  TvtEigenCtrlRec rec;
+  // The first row decides, whatever case it names.
+  if (const S2kCaseModal1Row* row = modal1_.Lookup(1)) {
+    rec.TYPE = row->ModeType;
+    UpperCase(rec.TYPE);
+
+    const CS2kModel& source = *engine.sourceModel;
+    int limit = source.ConnectivityFrame.Count() + source.ConnectivityArea.Count() + source.ConnectivitySolid.Count();
+    // The structure record is filled after the walk, so the factor is
+    // still that of its defaults here.
+    const int iSMAS = engine.targetModel->StructType.iSMAS;
+    if (iSMAS == 1)
+      limit *= 3;
+    else if (iSMAS == 2)
+      limit *= 2;
+    int modes = row->MaxNumModes > limit ? limit : TruncateToInt(row->MaxNumModes);
+
+    if (rec.TYPE == "EIGEN") {
+      rec.iFREQ = modes;
+      rec.TOL = row->EigenTol;
+    } else if (rec.TYPE == "RITZ" && !modal3_.Empty()) {
+      int zeroEntries = 0;
+      modal3_.Walk([&](int, const S2kCaseModal3Row& load) {
+        if (load.Case != Case) return;
+        rec.bINCNL = "NO";
+        rec.iGNUM = 1;
+        if (load.LoadType == "Load case") {
+          rec.KIND.push_back("CASE");
+          rec.CASE.push_back(load.LoadName);
+        } else if (load.LoadType == "Accel") {
+          rec.KIND.push_back("GROUND");
+          if (load.LoadName == "Accel UX")
+            rec.CASE.push_back("ACCX");
+          else if (load.LoadName == "Accel UY")
+            rec.CASE.push_back("ACCY");
+          else if (load.LoadName == "Accel UZ")
+            rec.CASE.push_back("ACCZ");
+        }
+        rec.iNOG.push_back(TruncateToInt(load.MaxCycles));
+        if (load.MaxCycles < engine.ZeroTolerance) ++zeroEntries;
+      });
+      if (zeroEntries > 0) {
+        // The modes left over are shared out among the loads without cycles.
+        int sum = 0;
+        for (int cycles : rec.iNOG) sum = WrapAdd(sum, cycles);
+        const int share = WrapSub(modes, sum) / zeroEntries;
+        if (share > 0)
+          for (int& cycles : rec.iNOG)
+            if (cycles == 0) cycles = share;
+      }
+    }
+  }
+  rec.Defined = 1;
+  dynamicCaseSeen_ = 1;
+  eigenCtrl_ = std::move(rec);
+}
+
+void CAnalysisControls::ConvertSpectrumControl(const std::string& /*Case*/) {
+  // The first row decides, whatever case it names.
+  const S2kCaseSpectrum1Row* row = spectrum1_.Lookup(1);
+  if (!row) return;
+  TvtSpecCtrlRec rec;
+  rec.TYPE = row->ModalCombo;
+  rec.DAMPING = row->ModalCombo == "CQC" ? row->ConstDamp : 0;
+  rec.bADDSIGN = "NO";
+  rec.Defined = 1;
+  dynamicCaseSeen_ = 1;
+  specCtrl_ = std::move(rec);
+}
+
+void CAnalysisControls::ConvertBucklingCase(const std::string& Case) {
+  // Only the first buckling case with loads counts.
+  if (bucklingDefined_ || buckling1_.Empty() || buckling2_.Empty()) return;
+  TvtBuckCtrlRec rec;
+  bool refused = false;
+  buckling2_.Walk([&](int, const S2kCaseBuckling2Row& load) {
+    if (refused || load.Case != Case) return;
+    if (load.LoadType != "Load case") {
+      // Ends the case; loads taken before it stand.
+      bucklingLoadRefused_ = 1;
+      refused = true;
+      return;
+    }
+    rec.LCNAME.push_back(load.LoadName);
+    rec.FACT.push_back(load.LoadSF);
+    // The last row of this case counts; none leaves the record's values.
+    buckling1_.Walk([&](int, const S2kCaseBuckling1Row& modes) {
+      if (modes.Case != Case) return;
+      rec.iMODENUM = TruncateToInt(modes.NumBuckMode);
+      rec.TOL = modes.EigenTol;
+    });
+    rec.iITER = 30;
+    buckCtrl_ = rec;
+    bucklingDefined_ = 1;
+  });
+}
+
+void CAnalysisControls::ConvertLoadToMass() {
+  if (massSource_.Empty()) return;
+  TvtLoadtomassRec rec;
+  massSource_.Walk([&](int, const S2kMassSourceRow& row) {
+    if (row.MassFrom == "Elements") return;
+    rec.LCNAME.push_back(row.LoadCase);
+    rec.FACTOR.push_back(row.Multiplier);
+  });
+  rec.GRAV = engine.GravityInModelUnits();
+  rec.Defined = 1;
+  loadToMass_ = std::move(rec);
+}
+
+int CAnalysisControls::ConvertAnalysisControl() {
+  if (dynamicCaseSeen_) analCtrl_ = TvtAnalCtrlRec{};
+  return 1;
+}
