@@ -1,7 +1,11 @@
 // Areas and solids to plate and solid elements.
 #include <cmath>
 
+#include "elements/elements.h"
+
 #include "frame/converter.h"
+#include "geometry/geometry.h"
+#include "elements/properties.h"
 
 namespace {
 
@@ -14,9 +18,9 @@ bool HoldsAfterStart(const std::string& text, const char* word) {
 
 }  // namespace
 
-int CS2kConverter::ConvertAreas() {
+int CElements::ConvertAreas() {
   int ok = 1;
-  sourceModel->ConnectivityArea.Walk([&](int key, const S2kConnectivityAreaRow& row) {
+  source_.ConnectivityArea.Walk([&](int key, const S2kConnectivityAreaRow& row) {
     if (!ok) return;
     TvtPlateElementRec rec;
     rec.iEL = row.Area;
@@ -32,17 +36,17 @@ int CS2kConverter::ConvertAreas() {
       rec.iMAT = iMAT;
       rec.iSUB = iSUB;
     }
-    ok = targetModel->PlateElements.SetAt(key, rec);
+    ok = target_.PlateElements.SetAt(key, rec);
     NoteElementName(row.Area);
   });
   // Local axes of areas are dropped, in every model that has areas.
-  elementFlags.PlateLocalAxesWarning = ok;
+  flags_.PlateLocalAxesWarning = ok;
   return ok;
 }
 
-int CS2kConverter::ConvertSolids() {
+int CElements::ConvertSolids() {
   int ok = 1;
-  sourceModel->ConnectivitySolid.Walk([&](int key, const S2kConnectivitySolidRow& row) {
+  source_.ConnectivitySolid.Walk([&](int key, const S2kConnectivitySolidRow& row) {
     if (!ok) return;
     TvtSolidElementRec rec;
     rec.iEL = row.Solid;
@@ -59,22 +63,17 @@ int CS2kConverter::ConvertSolids() {
     FindSolidMaterial(row.Solid, material);
     rec.iMAT = material;
     rec.iPRO = 0;
-    ok = targetModel->SolidElements.SetAt(key, rec);
+    ok = target_.SolidElements.SetAt(key, rec);
     NoteElementName(row.Solid);
   });
-  elementFlags.SolidLocalAxesWarning = ok;
+  flags_.SolidLocalAxesWarning = ok;
   return ok;
 }
 
-int CS2kConverter::FindAreaSectionName(const std::string& name, int kind, std::string& section) {
-  if (kind == 1) {
-    const S2kFrameSectionAssignRow* row = frameSectionAssignFrames.Find(sourceModel->FrameSectionAssigns, name);
-    if (!row) return 0;
-    section = row->AnalSect;
-    return 1;
-  }
+int CElements::FindAreaSectionName(const std::string& name, int kind, std::string& section) {
+  if (kind == 1) return engine.Get<CProperties>().FindFrameSectionName(name, section);
   if (kind == 2) {
-    const S2kAreaSectionAssignRow* row = areaSectionAssignNames.Find(sourceModel->AreaSectionAssign, name);
+    const S2kAreaSectionAssignRow* row = areaSectionAssignNames_.Find(source_.AreaSectionAssign, name);
     if (!row) return 0;
     section = row->Section;
     return 1;
@@ -84,11 +83,11 @@ int CS2kConverter::FindAreaSectionName(const std::string& name, int kind, std::s
 
 // Every row of the section's name is tried in walk order until one names a
 // known material; each leaves its type behind.
-int CS2kConverter::FindAreaSectionData(const std::string& section, const S2kConnectivityAreaRow& area, int& iPRO,
+int CElements::FindAreaSectionData(const std::string& section, const S2kConnectivityAreaRow& area, int& iPRO,
                                        int& iMAT, int& iSUB, std::string& TYPE) {
-  const auto& table = sourceModel->AreaSection;
+  const auto& table = source_.AreaSection;
   if (table.Empty()) return 1;
-  if (const auto* hit = areaSectionRows.Hits(table, section)) {
+  if (const auto* hit = areaSectionRows_.Hits(table, section)) {
     for (int key : hit->keys) {
       iPRO = key;
       const S2kAreaSectionRow& row = *table.Lookup(key);
@@ -104,7 +103,7 @@ int CS2kConverter::FindAreaSectionData(const std::string& section, const S2kConn
           iSUB = 0;
         } else {
           TYPE = "PLATE";
-          targetModel->AreaPropNotConverted = 1;
+          target_.AreaPropNotConverted = 1;
         }
       } else if (row.AreaType == "Plane") {
         if (row.Type == "Plane-Stress")
@@ -112,43 +111,39 @@ int CS2kConverter::FindAreaSectionData(const std::string& section, const S2kConn
         else if (row.Type == "Plane-Strain")
           TYPE = IsFlatInY(area) ? "PLSTRN" : "PLSTRS";
         else
-          targetModel->AreaPropNotConverted = 1;
+          target_.AreaPropNotConverted = 1;
       } else if (row.AreaType == "Asolid") {
         TYPE = IsFlatInY(area) ? "AXISYM" : "PLSTRS";
       } else {
-        targetModel->AreaPropNotConverted = 1;
+        target_.AreaPropNotConverted = 1;
       }
-      if (FindElementMaterial(row.Material, iMAT)) return 1;
+      if (engine.Get<CProperties>().FindElementMaterial(row.Material, iMAT)) return 1;
     }
   }
   return 0;
 }
 
 // Both tests use Y, whatever plane the model lies in.
-int CS2kConverter::IsFlatInY(const S2kConnectivityAreaRow& area) {
+int CElements::IsFlatInY(const S2kConnectivityAreaRow& area) {
   double x, y[4], z;
   const std::string* joints[4] = {&area.Joint1, &area.Joint2, &area.Joint3, &area.Joint4};
-  for (int k = 0; k < 4; ++k) FindJointGlobalCoordinates(*joints[k], x, y[k], z);
+  for (int k = 0; k < 4; ++k) engine.Get<CGeometry>().FindJointGlobalCoordinates(*joints[k], x, y[k], z);
   for (int k = 1; k < 4; ++k)
     if (std::fabs(y[0] - y[k]) > 0.0) return 0;
   return 1;
 }
 
-int CS2kConverter::FindSolidMaterial(const std::string& name, int& number) {
-  const auto& assigns = sourceModel->SolidPropAssign;
+int CElements::FindSolidMaterial(const std::string& name, int& number) {
+  const auto& assigns = source_.SolidPropAssign;
   if (assigns.Empty()) return 1;
-  const auto* hit = solidPropAssignRows.Hits(assigns, name);
+  const auto* hit = solidPropAssignRows_.Hits(assigns, name);
   if (!hit) return 0;
-  const auto& props = sourceModel->SolidProp;
+  const auto& props = source_.SolidProp;
   for (int key : hit->keys) {
     std::string material;
-    if (const S2kSolidPropRow* prop = solidPropNames.Find(props, assigns.Lookup(key)->SolidProp))
+    if (const S2kSolidPropRow* prop = solidPropNames_.Find(props, assigns.Lookup(key)->SolidProp))
       material = prop->Material;
-    if (FindElementMaterial(material, number)) return 1;
+    if (engine.Get<CProperties>().FindElementMaterial(material, number)) return 1;
   }
   return 0;
-}
-
-int CS2kConverter::FindElementMaterial(const std::string& name, int& number) {
-  return sourceModel->Material1.Empty() || FindMaterialNumber(name, number);
 }

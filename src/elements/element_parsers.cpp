@@ -1,4 +1,6 @@
 // The row parsers of the element tables.
+#include "elements/elements.h"
+
 #include "frame/converter.h"
 #include "s2k/table_parsers.h"
 
@@ -123,29 +125,29 @@ constexpr S2kField<Fixity> kFramePartialFixKeys[] = {
 
 }  // namespace
 
-int CS2kConverter::ParseAreaSectionAssign() { return ParseRows(kAreaSectionAssignKeys, sourceModel->AreaSectionAssign); }
-int CS2kConverter::ParseAreaSection() { return ParseRows(kAreaSectionKeys, sourceModel->AreaSection); }
-int CS2kConverter::ParseConnectivityArea() { return ParseRows(kConnectivityAreaKeys, sourceModel->ConnectivityArea); }
-int CS2kConverter::ParseConnectivityFrame() { return ParseRows(kConnectivityFrameKeys, sourceModel->ConnectivityFrame); }
-int CS2kConverter::ParseConnectivitySolid() { return ParseRows(kConnectivitySolidKeys, sourceModel->ConnectivitySolid); }
-int CS2kConverter::ParseFrameLocalAxes1() { return ParseRows(kFrameLocalAxes1Keys, sourceModel->FrameLocalAxes1); }
-int CS2kConverter::ParseFrameLocalAxes2() { return ParseRows(kFrameLocalAxes2Keys, sourceModel->FrameLocalAxes2); }
-int CS2kConverter::ParseFrameOffset() { return ParseRows(kFrameOffsetKeys, sourceModel->FrameOffset); }
-int CS2kConverter::ParseFrameRelease() { return ParseRows(kFrameReleaseKeys, sourceModel->FrameRelease); }
-int CS2kConverter::ParseFramePartialFix() { return ParseRows(kFramePartialFixKeys, sourceModel->FramePartialFix); }
-int CS2kConverter::ParseSolidPropAssign() { return ParseRows(kSolidPropAssignKeys, sourceModel->SolidPropAssign); }
-int CS2kConverter::ParseSolidProp() { return ParseRows(kSolidPropKeys, sourceModel->SolidProp); }
-int CS2kConverter::ParseSolidSummary() { return ParseRows(kSolidSummaryKeys, sourceModel->SolidSummary); }
+int CElements::ParseAreaSectionAssign() { return engine.ParseRows(kAreaSectionAssignKeys, source_.AreaSectionAssign); }
+int CElements::ParseAreaSection() { return engine.ParseRows(kAreaSectionKeys, source_.AreaSection); }
+int CElements::ParseConnectivityArea() { return engine.ParseRows(kConnectivityAreaKeys, source_.ConnectivityArea); }
+int CElements::ParseConnectivityFrame() { return engine.ParseRows(kConnectivityFrameKeys, source_.ConnectivityFrame); }
+int CElements::ParseConnectivitySolid() { return engine.ParseRows(kConnectivitySolidKeys, source_.ConnectivitySolid); }
+int CElements::ParseFrameLocalAxes1() { return engine.ParseRows(kFrameLocalAxes1Keys, source_.FrameLocalAxes1); }
+int CElements::ParseFrameLocalAxes2() { return engine.ParseRows(kFrameLocalAxes2Keys, source_.FrameLocalAxes2); }
+int CElements::ParseFrameOffset() { return engine.ParseRows(kFrameOffsetKeys, source_.FrameOffset); }
+int CElements::ParseFrameRelease() { return engine.ParseRows(kFrameReleaseKeys, source_.FrameRelease); }
+int CElements::ParseFramePartialFix() { return engine.ParseRows(kFramePartialFixKeys, source_.FramePartialFix); }
+int CElements::ParseSolidPropAssign() { return engine.ParseRows(kSolidPropAssignKeys, source_.SolidPropAssign); }
+int CElements::ParseSolidProp() { return engine.ParseRows(kSolidPropKeys, source_.SolidProp); }
+int CElements::ParseSolidSummary() { return engine.ParseRows(kSolidSummaryKeys, source_.SolidSummary); }
 
 const std::vector<S2kTableParser>& ElementTableParsers() {
   static const std::vector<S2kTableParser> parsers = {
-      {125, RunStep<&CS2kConverter::ParseAreaSectionAssign>}, {126, RunStep<&CS2kConverter::ParseAreaSection>},
-      {201, RunStep<&CS2kConverter::ParseConnectivityArea>},  {202, RunStep<&CS2kConverter::ParseConnectivityFrame>},
-      {204, RunStep<&CS2kConverter::ParseConnectivitySolid>}, {239, RunStep<&CS2kConverter::ParseFrameLocalAxes1>},
-      {240, RunStep<&CS2kConverter::ParseFrameLocalAxes2>},   {243, RunStep<&CS2kConverter::ParseFrameOffset>},
-      {250, RunStep<&CS2kConverter::ParseFrameRelease>},      {251, RunStep<&CS2kConverter::ParseFramePartialFix>},
-      {489, RunStep<&CS2kConverter::ParseSolidPropAssign>},   {490, RunStep<&CS2kConverter::ParseSolidProp>},
-      {505, RunStep<&CS2kConverter::ParseSolidSummary>},
+      {125, RunStep<&CElements::ParseAreaSectionAssign>}, {126, RunStep<&CElements::ParseAreaSection>},
+      {201, RunStep<&CElements::ParseConnectivityArea>},  {202, RunStep<&CElements::ParseConnectivityFrame>},
+      {204, RunStep<&CElements::ParseConnectivitySolid>}, {239, RunStep<&CElements::ParseFrameLocalAxes1>},
+      {240, RunStep<&CElements::ParseFrameLocalAxes2>},   {243, RunStep<&CElements::ParseFrameOffset>},
+      {250, RunStep<&CElements::ParseFrameRelease>},      {251, RunStep<&CElements::ParseFramePartialFix>},
+      {489, RunStep<&CElements::ParseSolidPropAssign>},   {490, RunStep<&CElements::ParseSolidProp>},
+      {505, RunStep<&CElements::ParseSolidSummary>},
   };
   return parsers;
 }

@@ -1,7 +1,17 @@
 // Frames to *ELEMENT, the element numbers and the element map.
 #include <cmath>
 
+#include "elements/elements.h"
+
 #include "frame/converter.h"
+#include "geometry/geometry.h"
+#include "elements/properties.h"
+
+CElements::CElements(CS2kConverter& engine) : CSubject(engine) {
+  source_.Reset();
+  target_.Reset();
+  elementNumberMap.Reset(10001);
+}
 
 namespace {
 
@@ -19,10 +29,10 @@ std::string ElementKey(const std::string& kind, const std::string& name) {
 
 // Every model with frames gets the local axes warning: only the beta angle
 // is kept of them.
-int CS2kConverter::ConvertFrames() {
-  const auto& frames = sourceModel->ConnectivityFrame;
+int CElements::ConvertFrames() {
+  const auto& frames = source_.ConnectivityFrame;
   if (frames.Empty()) return 1;
-  elementFlags.FrameLocalAxesWarning = 1;
+  flags_.FrameLocalAxesWarning = 1;
   int ok = 1;
   frames.Walk([&](int key, const S2kConnectivityFrameRow& row) {
     if (!ok) return;
@@ -31,42 +41,17 @@ int CS2kConverter::ConvertFrames() {
     rec.iEL = row.Frame;
     rec.iN1 = row.JointI;
     rec.iN2 = row.JointJ;
-    FindFrameSection(key, rec.iPRO, rec.iMAT);
+    engine.Get<CProperties>().FindFrameSection(key, rec.iPRO, rec.iMAT);
     S2kFrameLocalAxes1Row axes;
     if (FindFrameAngle(row.Frame, axes)) rec.ANGLE = axes.Angle;
     NoteElementName(row.Frame);
-    ok = targetModel->FrameElements.SetAt(key, rec);
+    ok = target_.FrameElements.SetAt(key, rec);
   });
   return ok;
 }
 
-// Tables 202 and 252 are tied by position, not by the frame's name.
-void CS2kConverter::FindFrameSection(int key, int& iPRO, int& iMAT) {
-  const auto& assigns = sourceModel->FrameSectionAssigns;
-  if (assigns.Empty()) return;
-  std::string section;
-  if (const S2kFrameSectionAssignRow* assign = assigns.Lookup(key)) section = assign->AnalSect;
-  const auto& sections = sourceModel->FrameSections;
-  if (sections.Empty()) return;
-  const int sectionKey = sectionNames.FindKey(sections, section);
-  if (!sectionKey) return;
-  iPRO = sectionKey;
-  const S2kFrameSectionRow& row = *sections.Lookup(sectionKey);
-  if (row.Shape != "Nonprismatic") {
-    FindMaterialNumber(row.Material, iMAT);
-    return;
-  }
-  // A nonprismatic section takes the material of its first segment's start.
-  const auto& segments = sourceModel->FrameNonprismatic;
-  if (segments.Empty()) return;
-  const S2kFrameNonprismaticRow* segment = nonprismaticNames.Find(segments, section);
-  if (!segment) return;
-  if (const S2kFrameSectionRow* start = sectionNames.Find(sections, segment->StartSect))
-    FindMaterialNumber(start->Material, iMAT);
-}
-
-int CS2kConverter::FindFrameAngle(const std::string& name, S2kFrameLocalAxes1Row& row) {
-  const S2kFrameLocalAxes1Row* found = frameAngleNames.Find(sourceModel->FrameLocalAxes1, name);
+int CElements::FindFrameAngle(const std::string& name, S2kFrameLocalAxes1Row& row) {
+  const S2kFrameLocalAxes1Row* found = frameAngleNames_.Find(source_.FrameLocalAxes1, name);
   if (!found) return 0;
   row = *found;
   if (row.AdvanceAxes) AdjustAngleForAdvancedAxes(name, row.Angle);
@@ -74,8 +59,8 @@ int CS2kConverter::FindFrameAngle(const std::string& name, S2kFrameLocalAxes1Row
 }
 
 // The advanced axes shrink to one rotation about the member's axis.
-void CS2kConverter::AdjustAngleForAdvancedAxes(const std::string& name, double& angle) {
-  const S2kFrameLocalAxes2Row* found = frameAdvancedAxesNames.Find(sourceModel->FrameLocalAxes2, name);
+void CElements::AdjustAngleForAdvancedAxes(const std::string& name, double& angle) {
+  const S2kFrameLocalAxes2Row* found = frameAdvancedAxesNames_.Find(source_.FrameLocalAxes2, name);
   if (!found) return;
   const S2kFrameLocalAxes2Row& row = *found;
   if (row.PlOption1 == "Coord Dir") {
@@ -91,8 +76,8 @@ void CS2kConverter::AdjustAngleForAdvancedAxes(const std::string& name, double& 
     }
   } else if (row.PlOption1 == "Two Joints") {
     double x1, y1, z1, x2, y2, z2;
-    FindJointGlobalCoordinates(row.PlVecJt1, x1, y1, z1);
-    FindJointGlobalCoordinates(row.PlVecJt2, x2, y2, z2);
+    engine.Get<CGeometry>().FindJointGlobalCoordinates(row.PlVecJt1, x1, y1, z1);
+    engine.Get<CGeometry>().FindJointGlobalCoordinates(row.PlVecJt2, x2, y2, z2);
     double dy = y2 - y1;
     double dz = z2 - z1;
     angle = std::atan2(dz, dy) * 180.0 / kPi - 90.0 + angle;
@@ -101,39 +86,29 @@ void CS2kConverter::AdjustAngleForAdvancedAxes(const std::string& name, double& 
   }
 }
 
-int CS2kConverter::FindJointGlobalCoordinates(const std::string& name, double& x, double& y, double& z) {
-  x = y = z = 0;
-  const S2kJointCoordinatesRow* row = jointCoordinateNames.Find(sourceModel->JointCoordinates, name);
-  if (!row) return 0;
-  x = row->GlobalX;
-  y = row->GlobalY;
-  z = row->GlobalZ;
-  return 1;
-}
-
-void CS2kConverter::NoteElementName(const std::string& name) {
+void CElements::NoteElementName(const std::string& name) {
   for (char ch : name)
     if (!IsDigit(ch)) ElementNamesNumeric = 0;
 }
 
-int CS2kConverter::IsRenumbered() const { return !ElementNamesNumeric || ElementsRenumbered; }
+int CElements::IsRenumbered() const { return !ElementNamesNumeric || ElementsRenumbered; }
 
-int CS2kConverter::FindElementNumber(const std::string& name, const std::string& kind, int& number) {
+int CElements::FindElementNumber(const std::string& name, const std::string& kind, int& number) {
   if (elementNumberMap.Empty()) return 1;
-  if (elementNumberIndexCount != elementNumberMap.Count()) {
-    elementNumberIndex.clear();
+  if (elementNumberIndexCount_ != elementNumberMap.Count()) {
+    elementNumberIndex_.clear();
     elementNumberMap.Walk([&](int, const TvtElementMapEntry& entry) {
-      elementNumberIndex.try_emplace(ElementKey(entry.kind, entry.name), entry.number);
+      elementNumberIndex_.try_emplace(ElementKey(entry.kind, entry.name), entry.number);
     });
-    elementNumberIndexCount = elementNumberMap.Count();
+    elementNumberIndexCount_ = elementNumberMap.Count();
   }
-  auto it = elementNumberIndex.find(ElementKey(kind, name));
-  if (it == elementNumberIndex.end()) return 0;
+  auto it = elementNumberIndex_.find(ElementKey(kind, name));
+  if (it == elementNumberIndex_.end()) return 0;
   number = it->second;
   return 1;
 }
 
-int CS2kConverter::ElementNumberOf(const std::string& name, const std::string& kind) {
+int CElements::ElementNumberOf(const std::string& name, const std::string& kind) {
   int number = 0;
   if (IsRenumbered())
     FindElementNumber(name, kind, number);
@@ -142,90 +117,83 @@ int CS2kConverter::ElementNumberOf(const std::string& name, const std::string& k
   return number;
 }
 
-void CS2kConverter::ResolveNodeNumber(const std::string& name, int& number) {
-  if (targetModel->jointsKeepNumbers)
-    number = ParseInt(name);
-  else
-    targetModel->LookupNodeNumber(name, number);
-}
-
 // Two or more kinds of element, or one name that is not a number, renumber
 // the model. The clash of names is looked for all the same.
-int CS2kConverter::DecideRenumbering() {
-  int frames = sourceModel->ConnectivityFrame.Count();
-  int areas = sourceModel->ConnectivityArea.Count();
-  int solids = sourceModel->ConnectivitySolid.Count();
+int CElements::DecideRenumbering() {
+  int frames = source_.ConnectivityFrame.Count();
+  int areas = source_.ConnectivityArea.Count();
+  int solids = source_.ConnectivitySolid.Count();
   if (frames + areas < 1 || areas + solids < 1 || frames + solids < 1) return 0;
   std::unordered_map<std::string, int> areaNames, solidNames;
-  sourceModel->ConnectivityArea.Walk([&](int key, const S2kConnectivityAreaRow& row) { areaNames.emplace(row.Area, key); });
-  sourceModel->ConnectivitySolid.Walk(
+  source_.ConnectivityArea.Walk([&](int key, const S2kConnectivityAreaRow& row) { areaNames.emplace(row.Area, key); });
+  source_.ConnectivitySolid.Walk(
       [&](int key, const S2kConnectivitySolidRow& row) { solidNames.emplace(row.Solid, key); });
   bool clash = false;
   if (frames == 0) {
     for (const auto& [name, key] : areaNames) clash = clash || solidNames.count(name);
   } else {
-    sourceModel->ConnectivityFrame.Walk([&](int, const S2kConnectivityFrameRow& row) {
+    source_.ConnectivityFrame.Walk([&](int, const S2kConnectivityFrameRow& row) {
       clash = clash || areaNames.count(row.Frame) || solidNames.count(row.Frame);
     });
   }
   return ElementNamesNumeric || clash;
 }
 
-int CS2kConverter::WriteElements() {
-  const auto& target = *targetModel;
+int CElements::WriteElements() {
+  const auto& target = target_;
   if (target.FrameElements.Empty() && target.PlateElements.Empty() && target.SolidElements.Empty()) return 1;
-  if (elementFlags.NodeNotAssignedWarning) ShowMessage("IDS_S2KV8_NODE_Not_Assgn");
-  if (elementFlags.ZeroLengthWarning) ShowMessage("IDS_S2KV8_ELEM_Length_Zero");
+  if (flags_.NodeNotAssignedWarning) engine.ShowMessage("IDS_S2KV8_NODE_Not_Assgn");
+  if (flags_.ZeroLengthWarning) engine.ShowMessage("IDS_S2KV8_ELEM_Length_Zero");
   // The decision is still to come: only names that are not numbers warn.
-  if (!ElementNamesNumeric || ElementsRenumbered) ShowMessage("IDS_S2KV8_ELEM_Renumbering");
-  WriteText("%s\n", "*ELEMENT    ; Elements");
-  WriteText("; iEL, TYPE, iMAT, iPRO, iN1, iN2, ANGLE, iSUB, EXVAL              ; Frame Element\n");
-  WriteText("; iEL, TYPE, iMAT, iPRO, iN1, iN2, iN3, iN4, iSUB, iWID            ; Planar Element\n");
-  WriteText("; iEL, TYPE, iMAT, iPRO, iN1, iN2, iN3, iN4, iN5, iN6, iN7, iN8    ; Solid  Element\n");
-  WriteText("; iEL, TYPE, iMAT, iPRO, iN1, iN2, REF, RPX, RPY, RPZ, iSUB, EXVAL ; Frame(Ref. Point)\n");
+  if (!ElementNamesNumeric || ElementsRenumbered) engine.ShowMessage("IDS_S2KV8_ELEM_Renumbering");
+  engine.WriteText("%s\n", "*ELEMENT    ; Elements");
+  engine.WriteText("; iEL, TYPE, iMAT, iPRO, iN1, iN2, ANGLE, iSUB, EXVAL              ; Frame Element\n");
+  engine.WriteText("; iEL, TYPE, iMAT, iPRO, iN1, iN2, iN3, iN4, iSUB, iWID            ; Planar Element\n");
+  engine.WriteText("; iEL, TYPE, iMAT, iPRO, iN1, iN2, iN3, iN4, iN5, iN6, iN7, iN8    ; Solid  Element\n");
+  engine.WriteText("; iEL, TYPE, iMAT, iPRO, iN1, iN2, REF, RPX, RPY, RPZ, iSUB, EXVAL ; Frame(Ref. Point)\n");
   ElementsRenumbered = DecideRenumbering();
-  int frames = sourceModel->ConnectivityFrame.Count();
-  int areas = sourceModel->ConnectivityArea.Count();
-  int solids = sourceModel->ConnectivitySolid.Count();
+  int frames = source_.ConnectivityFrame.Count();
+  int areas = source_.ConnectivityArea.Count();
+  int solids = source_.ConnectivitySolid.Count();
   if (frames > 0) WriteFrameLines(frames);
   if (areas > 0) WritePlateLines(frames, areas);
   if (solids > 0) WriteSolidLines(frames, areas, solids);
-  WriteText("\n");
+  engine.WriteText("\n");
   return 1;
 }
 
 // Lines stand in the order of the file. The node variables are not cleared
 // between frames: an unknown joint repeats the node of the frame before.
-void CS2kConverter::WriteFrameLines(int frames) {
-  if (elementFlags.FrameLocalAxesWarning) ShowMessage("IDS_S2KV8_FRAM_LclAx_Not_Convert");
+void CElements::WriteFrameLines(int frames) {
+  if (flags_.FrameLocalAxesWarning) engine.ShowMessage("IDS_S2KV8_FRAM_LclAx_Not_Convert");
   const bool renumbered = IsRenumbered();
   int n1 = 0, n2 = 0;
   for (int i = 1; i <= frames; ++i) {
-    const TvtFrameElementRec* rec = targetModel->FrameElements.Lookup(i);
+    const TvtFrameElementRec* rec = target_.FrameElements.Lookup(i);
     if (!rec) continue;
     int number = i;
     if (renumbered)
       elementNumberMap.SetAt(number, TvtElementMapEntry{number, number, rec->iEL, "FRAME"});
     else
       number = ParseInt(rec->iEL);
-    ResolveNodeNumber(rec->iN1, n1);
-    ResolveNodeNumber(rec->iN2, n2);
-    WriteText("\t%d, %5s, %5d, %5d, %5d, %5d, %5g", number, rec->TYPE.c_str(), rec->iMAT, rec->iPRO, n1, n2,
+    engine.Get<CGeometry>().ResolveNodeNumber(rec->iN1, n1);
+    engine.Get<CGeometry>().ResolveNodeNumber(rec->iN2, n2);
+    engine.WriteText("\t%d, %5s, %5d, %5d, %5d, %5d, %5g", number, rec->TYPE.c_str(), rec->iMAT, rec->iPRO, n1, n2,
               rec->ANGLE);
     if (renumbered)
-      WriteText("\t\t;Frame=%s\n", rec->iEL.c_str());
+      engine.WriteText("\t\t;Frame=%s\n", rec->iEL.c_str());
     else
-      WriteText("\n");
+      engine.WriteText("\n");
   }
 }
 
 // The source lists a quadrilateral's corners crosswise, the target around
 // its edge: n4 goes before n3.
-void CS2kConverter::WritePlateLines(int frames, int areas) {
-  if (elementFlags.PlateLocalAxesWarning) ShowMessage("IDS_S2KV8_PLAT_LclAx_Not_Convert");
+void CElements::WritePlateLines(int frames, int areas) {
+  if (flags_.PlateLocalAxesWarning) engine.ShowMessage("IDS_S2KV8_PLAT_LclAx_Not_Convert");
   const bool renumbered = IsRenumbered();
   for (int i = 1; i <= areas; ++i) {
-    const TvtPlateElementRec* rec = targetModel->PlateElements.Lookup(i);
+    const TvtPlateElementRec* rec = target_.PlateElements.Lookup(i);
     if (!rec) continue;
     int number = i + frames;
     if (renumbered)
@@ -233,31 +201,31 @@ void CS2kConverter::WritePlateLines(int frames, int areas) {
     else
       number = ParseInt(rec->iEL);
     int n1 = 0, n2 = 0, n3 = 0, n4 = 0;
-    ResolveNodeNumber(rec->iN1, n1);
-    ResolveNodeNumber(rec->iN2, n2);
-    ResolveNodeNumber(rec->iN3, n3);
-    ResolveNodeNumber(rec->iN4, n4);
+    engine.Get<CGeometry>().ResolveNodeNumber(rec->iN1, n1);
+    engine.Get<CGeometry>().ResolveNodeNumber(rec->iN2, n2);
+    engine.Get<CGeometry>().ResolveNodeNumber(rec->iN3, n3);
+    engine.Get<CGeometry>().ResolveNodeNumber(rec->iN4, n4);
     if (n3 == n4) n3 = 0;
     const char* type = rec->TYPE.c_str();
     if (rec->TYPE == "PLSTRS")
-      WriteText("\t%d, %5s, %5d, %5d, %5d, %5d, %5d, %5d\t", number, type, rec->iMAT, rec->iPRO, n1, n2, n4, n3);
+      engine.WriteText("\t%d, %5s, %5d, %5d, %5d, %5d, %5d, %5d\t", number, type, rec->iMAT, rec->iPRO, n1, n2, n4, n3);
     else if (rec->TYPE == "PLSTRN" || rec->TYPE == "AXISYM")
-      WriteText("\t%d, %5s, %5d, 0, %5d, %5d, %5d, %5d\t\t", number, type, rec->iMAT, n1, n2, n4, n3);
+      engine.WriteText("\t%d, %5s, %5d, 0, %5d, %5d, %5d, %5d\t\t", number, type, rec->iMAT, n1, n2, n4, n3);
     else
-      WriteText("\t%d, %5s, %5d, %5d, %5d, %5d, %5d, %5d, %5d", number, type, rec->iMAT, rec->iPRO, n1, n2, n4, n3,
+      engine.WriteText("\t%d, %5s, %5d, %5d, %5d, %5d, %5d, %5d, %5d", number, type, rec->iMAT, rec->iPRO, n1, n2, n4, n3,
                 rec->iSUB);
     if (renumbered)
-      WriteText("\t;Plate=%s\n", rec->iEL.c_str());
+      engine.WriteText("\t;Plate=%s\n", rec->iEL.c_str());
     else
-      WriteText("\n");
+      engine.WriteText("\n");
   }
 }
 
-void CS2kConverter::WriteSolidLines(int frames, int areas, int solids) {
-  if (elementFlags.SolidLocalAxesWarning) ShowMessage("IDS_S2KV8_SOLD_LclAx_Not_Convert");
+void CElements::WriteSolidLines(int frames, int areas, int solids) {
+  if (flags_.SolidLocalAxesWarning) engine.ShowMessage("IDS_S2KV8_SOLD_LclAx_Not_Convert");
   const bool renumbered = IsRenumbered();
   for (int i = 1; i <= solids; ++i) {
-    const TvtSolidElementRec* rec = targetModel->SolidElements.Lookup(i);
+    const TvtSolidElementRec* rec = target_.SolidElements.Lookup(i);
     if (!rec) continue;
     int number = i + frames + areas;
     if (renumbered)
@@ -267,17 +235,25 @@ void CS2kConverter::WriteSolidLines(int frames, int areas, int solids) {
     int n[8] = {};
     const std::string* joints[8] = {&rec->iN1, &rec->iN2, &rec->iN3, &rec->iN4,
                                     &rec->iN5, &rec->iN6, &rec->iN7, &rec->iN8};
-    for (int k = 0; k < 8; ++k) ResolveNodeNumber(*joints[k], n[k]);
+    for (int k = 0; k < 8; ++k) engine.Get<CGeometry>().ResolveNodeNumber(*joints[k], n[k]);
     const char* type = rec->TYPE.c_str();
     if (solidNodeCount == 8)
-      WriteText("\t%d, %5s, %5d, %5d, %5d, %5d, %5d, %5d, %5d, %5d, %5d, %5d", number, type, rec->iMAT, rec->iPRO,
+      engine.WriteText("\t%d, %5s, %5d, %5d, %5d, %5d, %5d, %5d, %5d, %5d, %5d, %5d", number, type, rec->iMAT, rec->iPRO,
                 n[0], n[1], n[3], n[2], n[4], n[5], n[7], n[6]);
     else
-      WriteText("\t%d, %5s, %5d, %5d, %5d, %5d, %5d, %5d, %5d, %5d, 0, 0", number, type, rec->iMAT, rec->iPRO, n[0],
+      engine.WriteText("\t%d, %5s, %5d, %5d, %5d, %5d, %5d, %5d, %5d, %5d, 0, 0", number, type, rec->iMAT, rec->iPRO, n[0],
                 n[1], n[2], n[4], n[5], n[6]);
     if (renumbered)
-      WriteText("\t\t;Solid=%s\n", rec->iEL.c_str());
+      engine.WriteText("\t\t;Solid=%s\n", rec->iEL.c_str());
     else
-      WriteText("\n");
+      engine.WriteText("\n");
   }
+}
+
+const S2kConnectivityFrameRow* CElements::FindFrameConnectivity(const std::string& frame) const {
+  return frameConnectivityByName_.Find(source_.ConnectivityFrame, frame);
+}
+
+const S2kConnectivityAreaRow* CElements::FindAreaConnectivity(const std::string& area) const {
+  return areaConnectivityByName_.Find(source_.ConnectivityArea, area);
 }

@@ -1,24 +1,32 @@
 // Materials (tables 381, 382) to *MATERIAL.
+#include "elements/properties.h"
+
 #include "frame/converter.h"
+#include "geometry/geometry.h"
 #include "s2k/keys.h"
 
-int CS2kConverter::FindMaterialNumber(const std::string& name, int& number) {
-  const CKeyedTable<S2kMaterial1Row>& table = sourceModel->Material1;
+CProperties::CProperties(CS2kConverter& engine) : CSubject(engine) {
+  source_.Reset();
+  target_.Reset();
+}
+
+int CProperties::FindMaterialNumber(const std::string& name, int& number) const {
+  const CKeyedTable<S2kMaterial1Row>& table = source_.Material1;
   if (table.Empty()) return 0;
-  if (const int key = materialNames.FindKey(table, name)) {
+  if (const int key = materialNames_.FindKey(table, name)) {
     number = key;
     return 1;
   }
   // The walk ran to its end without a match.
-  number = materialNames.LastWalked(table);
+  number = materialNames_.LastWalked(table);
   return 0;
 }
 
-int CS2kConverter::ConvertOrthotropicMaterial(const std::string& name, const std::string& type, double density,
+int CProperties::ConvertOrthotropicMaterial(const std::string& name, const std::string& type, double density,
                                               int key) {
-  const CKeyedTable<S2kMaterial2Row>& table = sourceModel->Material2;
+  const CKeyedTable<S2kMaterial2Row>& table = source_.Material2;
   if (table.Empty()) return 0;
-  const S2kMaterial2Row* found = orthotropicNames.Find(table, name);
+  const S2kMaterial2Row* found = orthotropicNames_.Find(table, name);
   if (!found) return 0;
   const S2kMaterial2Row& row = *found;
   // The target's y and z are the source's 3 and 2, in every family.
@@ -39,13 +47,13 @@ int CS2kConverter::ConvertOrthotropicMaterial(const std::string& name, const std
   rec.Pxy = row.U13;
   rec.Pxz = row.U12;
   rec.Pyz = row.U23;
-  return targetModel->Materials.SetAt(key, rec);
+  return target_.Materials.SetAt(key, rec);
 }
 
-int CS2kConverter::ConvertMaterials() {
-  const CKeyedTable<S2kMaterial1Row>& table = sourceModel->Material1;
+int CProperties::ConvertMaterials() {
+  const CKeyedTable<S2kMaterial1Row>& table = source_.Material1;
   if (table.Empty()) return 1;
-  std::string temperatureUnit = sourceModel->TemperatureUnit;
+  std::string temperatureUnit = engine.Get<CGeometry>().TemperatureUnit();
   UpperCase(temperatureUnit);
   int ok = 1;
   table.Walk([&](int key, const S2kMaterial1Row& row) {
@@ -64,37 +72,41 @@ int CS2kConverter::ConvertMaterials() {
         rec.THERMAL = row.A;
       else if (temperatureUnit == "F")
         rec.THERMAL = row.A * 9.0 / 5.0;
-      ok = targetModel->Materials.SetAt(key, rec);
+      ok = target_.Materials.SetAt(key, rec);
       return;
     }
     ConvertOrthotropicMaterial(row.Material, rec.TYPE, rec.DEN, key);
-    if (row.Type == "Anisotropic") propertyFlags.MaterialAnisotropic = 1;
+    if (row.Type == "Anisotropic") flags_.MaterialAnisotropic = 1;
   });
   return ok;
 }
 
-int CS2kConverter::WriteMaterials() {
-  const CKeyedTable<TvtMaterialRec>& table = targetModel->Materials;
+int CProperties::WriteMaterials() {
+  const CKeyedTable<TvtMaterialRec>& table = target_.Materials;
   if (table.Empty()) return 1;
-  if (propertyFlags.MaterialAnisotropic) ShowMessage("IDS_S2KV8_MATL_ANIS_Not_Convert");
-  WriteText("%s\n", "*MATERIAL    ; Material\n");
-  WriteText("; iMAT, TYPE, MNAME, SPHEAT, HEATCO, [DATA1]               ; STEEL, CONC, USER\n");
-  WriteText("; iMAT, TYPE, MNAME, SPHEAT, HEATCO, [DATA2], [DATA2]      ; SRC\n");
-  WriteText("; [DATA1] : 1, DB, NAME\n");
-  WriteText("; [DATA1] : 2, ELAST, POISN, THERMAL, DEN\n");
-  WriteText("; [DATA1] : 3, Ex, Ey, Ez, Tx, Ty, Tz, Sxy, Sxz, Syz, Pxy, Pxz, Pyz, DEN  ; Orthotropic\n");
-  WriteText("; [DATA2] : 1, DB, NAME or 2, ELAST, POISN, THERMAL, DEN\n");
+  if (flags_.MaterialAnisotropic) engine.ShowMessage("IDS_S2KV8_MATL_ANIS_Not_Convert");
+  engine.WriteText("%s\n", "*MATERIAL    ; Material\n");
+  engine.WriteText("; iMAT, TYPE, MNAME, SPHEAT, HEATCO, [DATA1]               ; STEEL, CONC, USER\n");
+  engine.WriteText("; iMAT, TYPE, MNAME, SPHEAT, HEATCO, [DATA2], [DATA2]      ; SRC\n");
+  engine.WriteText("; [DATA1] : 1, DB, NAME\n");
+  engine.WriteText("; [DATA1] : 2, ELAST, POISN, THERMAL, DEN\n");
+  engine.WriteText("; [DATA1] : 3, Ex, Ey, Ez, Tx, Ty, Tz, Sxy, Sxz, Syz, Pxy, Pxz, Pyz, DEN  ; Orthotropic\n");
+  engine.WriteText("; [DATA2] : 1, DB, NAME or 2, ELAST, POISN, THERMAL, DEN\n");
   table.Walk([&](int iMAT, const TvtMaterialRec& rec) {
     if (rec.kind == 1) {
-      WriteText("\t%d, %5s, %5s, %5g, %5g, 2, %5g, %5g, %5g, %5g\n", iMAT, rec.TYPE.c_str(), rec.MNAME.c_str(),
+      engine.WriteText("\t%d, %5s, %5s, %5g, %5g, 2, %5g, %5g, %5g, %5g\n", iMAT, rec.TYPE.c_str(), rec.MNAME.c_str(),
                 rec.SPHEAT, rec.HEATCO, rec.ELAST, rec.POISN, rec.THERMAL, rec.DEN);
     } else {
-      WriteText(
+      engine.WriteText(
           "\t%d, %5s, %5s, %5g, %5g, 3, %5g, %5g, %5g, %5g, %5g, %5g, %5g, %5g, %5g, %5g, %5g, %5g, %5g\n", iMAT,
           rec.TYPE.c_str(), rec.MNAME.c_str(), rec.SPHEAT, rec.HEATCO, rec.Ex, rec.Ey, rec.Ez, rec.Tx, rec.Ty,
           rec.Tz, rec.Sxy, rec.Sxz, rec.Syz, rec.Pxy, rec.Pxz, rec.Pyz, rec.DEN);
     }
   });
-  WriteText("\n");
+  engine.WriteText("\n");
   return 1;
+}
+
+int CProperties::FindElementMaterial(const std::string& name, int& number) const {
+  return source_.Material1.Empty() || FindMaterialNumber(name, number);
 }

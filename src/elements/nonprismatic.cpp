@@ -1,4 +1,6 @@
 // Nonprismatic sections (table 257) to tapered *SECTION lines.
+#include "elements/properties.h"
+
 #include "frame/converter.h"
 
 namespace {
@@ -15,31 +17,31 @@ void ReadVariation(const std::string& word, int& variation) {
 
 }  // namespace
 
-int CS2kConverter::FindNonprismaticKey(const std::string& name) {
-  return nonprismaticNames.FindKey(sourceModel->FrameNonprismatic, name);
+int CProperties::FindNonprismaticKey(const std::string& name) const {
+  return nonprismaticNames_.FindKey(source_.FrameNonprismatic, name);
 }
 
-int CS2kConverter::ConvertNonprismaticSection(const S2kFrameSectionRow& section, TvtSectionRec& rec) {
-  const CKeyedTable<S2kFrameNonprismaticRow>& segments = sourceModel->FrameNonprismatic;
+int CProperties::ConvertNonprismaticSection(const S2kFrameSectionRow& section, TvtSectionRec& rec) {
+  const CKeyedTable<S2kFrameNonprismaticRow>& segments = source_.FrameNonprismatic;
   if (segments.Empty()) return 1;
-  const CKeyedTable<S2kFrameSectionRow>& sections = sourceModel->FrameSections;
+  const CKeyedTable<S2kFrameSectionRow>& sections = source_.FrameSections;
 
   // Any row of several segments, of whichever section, raises the flag.
-  if (!targetModel->TaperMultiSegment)
+  if (!target_.TaperMultiSegment)
     segments.Walk([&](int, const S2kFrameNonprismaticRow& row) {
-      if (row.NumSegments > 1) targetModel->TaperMultiSegment = 1;
+      if (row.NumSegments > 1) target_.TaperMultiSegment = 1;
     });
 
   bool startMissing = true, endMissing = true;
   std::string startCode, endCode;
-  if (const auto* own = nonprismaticNames.Hits(segments, section.SectionName)) {
+  if (const auto* own = nonprismaticNames_.Hits(segments, section.SectionName)) {
     for (int segmentKey : own->keys) {
       const S2kFrameNonprismaticRow& segment = *segments.Lookup(segmentKey);
       rec.TYPE = "TAPERED";
       if (sections.Empty()) break;
       // Every section of the name is met on the way, so the last in walk order stays.
       if (segment.SegmentNum == 1) {
-        if (const auto* start = sectionNames.Hits(sections, segment.StartSect)) {
+        if (const auto* start = sectionNames_.Hits(sections, segment.StartSect)) {
           const S2kFrameSectionRow& row = *sections.Lookup(start->Last());
           startCode = MapSectionShape(row.Shape, rec.BLT);
           ReadVariation(segment.EI22Var, rec.izVAR);
@@ -50,7 +52,7 @@ int CS2kConverter::ConvertNonprismaticSection(const S2kFrameSectionRow& section,
         }
       }
       if (segment.SegmentNum == segment.NumSegments) {
-        if (const auto* end = sectionNames.Hits(sections, segment.EndSect)) {
+        if (const auto* end = sectionNames_.Hits(sections, segment.EndSect)) {
           const S2kFrameSectionRow& row = *sections.Lookup(end->Last());
           endCode = MapSectionShape(row.Shape, rec.BLT);
           FillSectionDimensions(row, endCode, false, rec.D + 6);
@@ -65,28 +67,28 @@ int CS2kConverter::ConvertNonprismaticSection(const S2kFrameSectionRow& section,
   if (startCode != endCode) return 0;
   rec.SHAPE = startCode;
   if (startMissing) {
-    targetModel->TaperStartMissing = 1;
+    target_.TaperStartMissing = 1;
     return 0;
   }
   if (endMissing) {
-    targetModel->TaperEndMissing = 1;
+    target_.TaperEndMissing = 1;
     return 0;
   }
   return 1;
 }
 
-void CS2kConverter::WriteTaperedSection(int iSEC, const TvtSectionRec& rec) {
-  WriteText("\t%d, %5s, %5s, %5s, %5s, %5d, %5d, %5s\n", iSEC, rec.TYPE.c_str(), rec.SNAME.c_str(),
+void CProperties::WriteTaperedSection(int iSEC, const TvtSectionRec& rec) {
+  engine.WriteText("\t%d, %5s, %5s, %5s, %5s, %5d, %5d, %5s\n", iSEC, rec.TYPE.c_str(), rec.SNAME.c_str(),
             rec.OFFSET.c_str(), rec.SHAPE.c_str(), rec.iyVAR, rec.izVAR, rec.STYPE.c_str());
   if (rec.STYPE == "USER") {
-    WriteText("\t\t");
-    for (int i = 0; i < 12; ++i) WriteText(i ? ",%5g" : "%5g", rec.D[i]);
-    WriteText("\n");
+    engine.WriteText("\t\t");
+    for (int i = 0; i < 12; ++i) engine.WriteText(i ? ",%5g" : "%5g", rec.D[i]);
+    engine.WriteText("\n");
   } else if (rec.STYPE == "VALUE") {
     for (int end = 0; end < 2; ++end) {
-      WriteText("\t\t");
-      for (int i = 0; i < 6; ++i) WriteText(i ? ",%5g" : "%5g", rec.D[6 * end + i]);
-      WriteText("\n");
+      engine.WriteText("\t\t");
+      for (int i = 0; i < 6; ++i) engine.WriteText(i ? ",%5g" : "%5g", rec.D[6 * end + i]);
+      engine.WriteText("\n");
       WriteSectionValues(rec, end);
     }
   }

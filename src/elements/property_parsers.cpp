@@ -1,4 +1,6 @@
 // The row parsers of the material and section tables.
+#include "elements/properties.h"
+
 #include "frame/converter.h"
 #include "s2k/table_parsers.h"
 
@@ -142,27 +144,27 @@ constexpr S2kField<Material2> kMaterial2Keys[] = {
 
 }  // namespace
 
-int CS2kConverter::ParseFrameInsertion() { return ParseRows(kFrameInsertionKeys, sourceModel->FrameInsertions); }
-int CS2kConverter::ParseFrameModifiers() { return ParseRows(kFrameModifiersKeys, sourceModel->FrameModifiers); }
-int CS2kConverter::ParseFrameSectionAssign() {
-  return ParseRows(kFrameSectionAssignKeys, sourceModel->FrameSectionAssigns);
+int CProperties::ParseFrameInsertion() { return engine.ParseRows(kFrameInsertionKeys, source_.FrameInsertions); }
+int CProperties::ParseFrameModifiers() { return engine.ParseRows(kFrameModifiersKeys, source_.FrameModifiers); }
+int CProperties::ParseFrameSectionAssign() {
+  return engine.ParseRows(kFrameSectionAssignKeys, source_.FrameSectionAssigns);
 }
-int CS2kConverter::ParseFrameSection() { return ParseRows(kFrameSectionKeys, sourceModel->FrameSections); }
-int CS2kConverter::ParseFrameNonprismatic() {
-  return ParseRows(kFrameNonprismaticKeys, sourceModel->FrameNonprismatic);
+int CProperties::ParseFrameSection() { return engine.ParseRows(kFrameSectionKeys, source_.FrameSections); }
+int CProperties::ParseFrameNonprismatic() {
+  return engine.ParseRows(kFrameNonprismaticKeys, source_.FrameNonprismatic);
 }
-int CS2kConverter::ParseMaterial1() { return ParseRows(kMaterial1Keys, sourceModel->Material1); }
-int CS2kConverter::ParseMaterial2() { return ParseRows(kMaterial2Keys, sourceModel->Material2); }
+int CProperties::ParseMaterial1() { return engine.ParseRows(kMaterial1Keys, source_.Material1); }
+int CProperties::ParseMaterial2() { return engine.ParseRows(kMaterial2Keys, source_.Material2); }
 
 const std::vector<S2kTableParser>& PropertyTableParsers() {
   static const std::vector<S2kTableParser> parsers = {
-      {234, RunStep<&CS2kConverter::ParseFrameInsertion>},
-      {248, RunStep<&CS2kConverter::ParseFrameModifiers>},
-      {252, RunStep<&CS2kConverter::ParseFrameSectionAssign>},
-      {253, RunStep<&CS2kConverter::ParseFrameSection>},
-      {257, RunStep<&CS2kConverter::ParseFrameNonprismatic>},
-      {381, RunStep<&CS2kConverter::ParseMaterial1>},
-      {382, RunStep<&CS2kConverter::ParseMaterial2>},
+      {234, RunStep<&CProperties::ParseFrameInsertion>},
+      {248, RunStep<&CProperties::ParseFrameModifiers>},
+      {252, RunStep<&CProperties::ParseFrameSectionAssign>},
+      {253, RunStep<&CProperties::ParseFrameSection>},
+      {257, RunStep<&CProperties::ParseFrameNonprismatic>},
+      {381, RunStep<&CProperties::ParseMaterial1>},
+      {382, RunStep<&CProperties::ParseMaterial2>},
   };
   return parsers;
 }

@@ -2,6 +2,8 @@
 #include <algorithm>
 #include <string_view>
 
+#include "elements/properties.h"
+
 #include "frame/converter.h"
 
 namespace {
@@ -48,29 +50,61 @@ void FillSectionProperties(const S2kFrameSectionRow& row, TvtSectionRec& rec, in
   rec.Izz[end] = row.I22;
 }
 
-std::string CS2kConverter::MapSectionShape(const std::string& shape, int& BLT) {
+std::string CProperties::MapSectionShape(const std::string& shape, int& BLT) {
   BLT = 2;
   for (const WordCode& entry : kWordCodes)
     if (shape == entry.word) return entry.code;
   return "";
 }
 
-int CS2kConverter::FindFrameSectionKey(const std::string& name) {
-  return sectionNames.FindKey(sourceModel->FrameSections, name);
+// Tables 202 and 252 are tied by position, not by the frame's name.
+void CProperties::FindFrameSection(int key, int& iPRO, int& iMAT) const {
+  const auto& assigns = source_.FrameSectionAssigns;
+  if (assigns.Empty()) return;
+  std::string section;
+  if (const S2kFrameSectionAssignRow* assign = assigns.Lookup(key)) section = assign->AnalSect;
+  const auto& sections = source_.FrameSections;
+  if (sections.Empty()) return;
+  const int sectionKey = sectionNames_.FindKey(sections, section);
+  if (!sectionKey) return;
+  iPRO = sectionKey;
+  const S2kFrameSectionRow& row = *sections.Lookup(sectionKey);
+  if (row.Shape != "Nonprismatic") {
+    FindMaterialNumber(row.Material, iMAT);
+    return;
+  }
+  // A nonprismatic section takes the material of its first segment's start.
+  const auto& segments = source_.FrameNonprismatic;
+  if (segments.Empty()) return;
+  const S2kFrameNonprismaticRow* segment = nonprismaticNames_.Find(segments, section);
+  if (!segment) return;
+  if (const S2kFrameSectionRow* start = sectionNames_.Find(sections, segment->StartSect))
+    FindMaterialNumber(start->Material, iMAT);
 }
 
-int CS2kConverter::FindSectionOffsetCode(const std::string& name, std::string& offset) {
-  const CKeyedTable<S2kFrameSectionAssignRow>& assigns = sourceModel->FrameSectionAssigns;
+int CProperties::FindFrameSectionName(const std::string& name, std::string& section) const {
+  const S2kFrameSectionAssignRow* row = sectionAssignFrames_.Find(source_.FrameSectionAssigns, name);
+  if (!row) return 0;
+  section = row->AnalSect;
+  return 1;
+}
+
+int CProperties::FindFrameSectionKey(const std::string& name) const {
+  return sectionNames_.FindKey(source_.FrameSections, name);
+}
+
+int CProperties::FindSectionOffsetCode(const std::string& name, std::string& offset) const {
+  const CKeyedTable<S2kFrameSectionAssignRow>& assigns = source_.FrameSectionAssigns;
   if (assigns.Empty()) return 1;
   // A section that no frame uses takes the frame of the walk's last row.
-  int assignKey = sectionAssignNames.FindKey(assigns, name);
-  if (!assignKey) assignKey = sectionAssignNames.LastWalked(assigns);
+  int assignKey = sectionAssignNames_.FindKey(assigns, name);
+  if (!assignKey) assignKey = sectionAssignNames_.LastWalked(assigns);
   const std::string& frame = assigns.Lookup(assignKey)->Frame;
 
-  const CKeyedTable<S2kFrameInsertionRow>& insertions = sourceModel->FrameInsertions;
+  const CKeyedTable<S2kFrameInsertionRow>& insertions = source_.FrameInsertions;
   if (insertions.Empty()) return 1;
   offset.clear();
-  const S2kFrameInsertionRow* insertion = insertionFrames.Find(insertions, frame);
+  const S2kFrameInsertionRow* insertion = insertionFrames_.Find(insertions, frame);
   if (!insertion) return 0;
   const std::string& cardinalPoint = insertion->CardinalPt;
   for (const WordCode& entry : kCardinalPointCodes) {
@@ -82,10 +116,10 @@ int CS2kConverter::FindSectionOffsetCode(const std::string& name, std::string& o
   return 1;
 }
 
-int CS2kConverter::ConvertFrameSections() {
-  const CKeyedTable<S2kFrameSectionRow>& table = sourceModel->FrameSections;
+int CProperties::ConvertFrameSections() {
+  const CKeyedTable<S2kFrameSectionRow>& table = source_.FrameSections;
   if (table.Empty()) return 1;
-  CKeyedTable<TvtSectScaleRec>& scales = targetModel->SectScales;
+  CKeyedTable<TvtSectScaleRec>& scales = target_.SectScales;
   int ok = 1;
   table.Walk([&](int key, const S2kFrameSectionRow& row) {
     if (!ok) return;
@@ -96,7 +130,7 @@ int CS2kConverter::ConvertFrameSections() {
       rec.TYPE = "VALUE";
       rec.SHAPE = MapSectionShape(row.Shape, rec.BLT);
       if (rec.SHAPE.empty()) {
-        propertyFlags.SectionNotTranslated = 1;
+        flags_.SectionNotTranslated = 1;
         return;
       }
       FillSectionDimensions(row, rec.SHAPE, true, rec.D);
@@ -113,33 +147,33 @@ int CS2kConverter::ConvertFrameSections() {
     }
     rec.SNAME = row.SectionName;
     FindSectionOffsetCode(rec.SNAME, rec.OFFSET);
-    ok = targetModel->Sections.SetAt(key, rec);
+    ok = target_.Sections.SetAt(key, rec);
   });
   return ok;
 }
 
-int CS2kConverter::WriteSections() {
-  const CKeyedTable<TvtSectionRec>& table = targetModel->Sections;
+int CProperties::WriteSections() {
+  const CKeyedTable<TvtSectionRec>& table = target_.Sections;
   if (table.Empty()) return 1;
-  if (propertyFlags.SectionNotTranslated) ShowMessage("IDS_S2KV8_SECT_Not_Trans");
-  if (targetModel->TaperMultiSegment) ShowMessage("IDS_S2KV8_SECT_TAPP_Not_Convert");
-  if (targetModel->TaperStartMissing) ShowMessage("IDS_S2KV8_SECT_SSEC_Not_Define");
-  if (targetModel->TaperEndMissing) ShowMessage("IDS_S2KV8_SECT_ESEC_Not_Define");
-  WriteText("%s\n", "*SECTION    ; Section\n");
-  WriteText("; iSEC, TYPE, SNAME, OFFSET, SHAPE, [DATA] {, CCSHAPE}                     ; DB/USER\n");
-  WriteText("; iSEC, TYPE, SNAME, OFFSET, SHAPE, BLT, D1, D2, D3, D4, D5, D6            ; 1st line - VALUE\n");
-  WriteText(";       AREA, ASy, ASz, Ixx, Iyy, Izz                                      ; 2nd line\n");
-  WriteText(";       CyP, CyM, CzP, CzM, QyB, QzB, PERI_OUT, PERI_IN, Cy, Cz            ; 3rd line\n");
-  WriteText("; iSEC, TYPE, SNAME, OFFSET, SHAPE, iyVAR, izVAR, STYPE                    ; 1st line - TAPERED\n");
-  WriteText(";       [DIM1], [DIM2]                                                     ; 2nd line(STYPE=USER)\n");
-  WriteText(";       D11, D12, D13, D14, D15, D16                                       ; 2nd line(STYPE=VALUE)\n");
-  WriteText(";       AREA1, ASy1, ASz1, Ixx1, Iyy1, Izz1                                ; 3rd line(STYPE=VALUE)\n");
-  WriteText(";       CyP1, CyM1, CzP1, CzM1, QyB1, QzB1, PERI_OUT1, PERI_IN1, Cy1, Cz1  ; 4th line(STYPE=VALUE)\n");
-  WriteText(";       D21, D22, D23, D24, D25, D26                                       ; 5th line(STYPE=VALUE)\n");
-  WriteText(";       AREA2, ASy2, ASz2, Ixx2, Iyy2, Izz2                                ; 6th line(STYPE=VALUE)\n");
-  WriteText(";       CyP2, CyM2, CzP2, CzM2, QyB2, QzB2, PERI_OUT2, PERI_IN2, Cy2, Cz2  ; 7th line(STYPE=VALUE)\n");
-  WriteText("; [DATA] : 1, DB, NAME or 2, D1, D2, D3, D4, D5, D6\n");
-  WriteText("; [DIM1], [DIM2] : D1, D2, D3, D4, D5, D6\n");
+  if (flags_.SectionNotTranslated) engine.ShowMessage("IDS_S2KV8_SECT_Not_Trans");
+  if (target_.TaperMultiSegment) engine.ShowMessage("IDS_S2KV8_SECT_TAPP_Not_Convert");
+  if (target_.TaperStartMissing) engine.ShowMessage("IDS_S2KV8_SECT_SSEC_Not_Define");
+  if (target_.TaperEndMissing) engine.ShowMessage("IDS_S2KV8_SECT_ESEC_Not_Define");
+  engine.WriteText("%s\n", "*SECTION    ; Section\n");
+  engine.WriteText("; iSEC, TYPE, SNAME, OFFSET, SHAPE, [DATA] {, CCSHAPE}                     ; DB/USER\n");
+  engine.WriteText("; iSEC, TYPE, SNAME, OFFSET, SHAPE, BLT, D1, D2, D3, D4, D5, D6            ; 1st line - VALUE\n");
+  engine.WriteText(";       AREA, ASy, ASz, Ixx, Iyy, Izz                                      ; 2nd line\n");
+  engine.WriteText(";       CyP, CyM, CzP, CzM, QyB, QzB, PERI_OUT, PERI_IN, Cy, Cz            ; 3rd line\n");
+  engine.WriteText("; iSEC, TYPE, SNAME, OFFSET, SHAPE, iyVAR, izVAR, STYPE                    ; 1st line - TAPERED\n");
+  engine.WriteText(";       [DIM1], [DIM2]                                                     ; 2nd line(STYPE=USER)\n");
+  engine.WriteText(";       D11, D12, D13, D14, D15, D16                                       ; 2nd line(STYPE=VALUE)\n");
+  engine.WriteText(";       AREA1, ASy1, ASz1, Ixx1, Iyy1, Izz1                                ; 3rd line(STYPE=VALUE)\n");
+  engine.WriteText(";       CyP1, CyM1, CzP1, CzM1, QyB1, QzB1, PERI_OUT1, PERI_IN1, Cy1, Cz1  ; 4th line(STYPE=VALUE)\n");
+  engine.WriteText(";       D21, D22, D23, D24, D25, D26                                       ; 5th line(STYPE=VALUE)\n");
+  engine.WriteText(";       AREA2, ASy2, ASz2, Ixx2, Iyy2, Izz2                                ; 6th line(STYPE=VALUE)\n");
+  engine.WriteText(";       CyP2, CyM2, CzP2, CzM2, QyB2, QzB2, PERI_OUT2, PERI_IN2, Cy2, Cz2  ; 7th line(STYPE=VALUE)\n");
+  engine.WriteText("; [DATA] : 1, DB, NAME or 2, D1, D2, D3, D4, D5, D6\n");
+  engine.WriteText("; [DIM1], [DIM2] : D1, D2, D3, D4, D5, D6\n");
 
   // By number, 1 to the record count: a dropped row leaves a line of
   // defaults, and as many of the highest numbers go unwritten.
@@ -151,35 +185,35 @@ int CS2kConverter::WriteSections() {
     if (rec.TYPE == "TAPERED") {
       WriteTaperedSection(iSEC, rec);
     } else if (rec.TYPE == "VALUE") {
-      WriteText("\t%d, %5s, %5s, %5s, %5s, BUILT, %5g, %5g, %5g, %5g, %5g, %5g\n", iSEC, rec.TYPE.c_str(),
+      engine.WriteText("\t%d, %5s, %5s, %5s, %5s, BUILT, %5g, %5g, %5g, %5g, %5g, %5g\n", iSEC, rec.TYPE.c_str(),
                 rec.SNAME.c_str(), rec.OFFSET.c_str(), rec.SHAPE.c_str(), D[0], D[1], D[2], D[3], D[4], D[5]);
       WriteSectionValues(rec, 0);
     } else {
-      WriteText("\t%d, %5s, %5s, %5s, %5s, 2, %5g, %5g, %5g, %5g, %5g, %5g\n", iSEC, rec.TYPE.c_str(),
+      engine.WriteText("\t%d, %5s, %5s, %5s, %5s, 2, %5g, %5g, %5g, %5g, %5g, %5g\n", iSEC, rec.TYPE.c_str(),
                 rec.SNAME.c_str(), rec.OFFSET.c_str(), rec.SHAPE.c_str(), D[0], D[1], D[2], D[3], D[4], D[5]);
     }
   }
-  WriteText("\n");
+  engine.WriteText("\n");
   return 1;
 }
 
-void CS2kConverter::WriteSectionValues(const TvtSectionRec& rec, int end) {
-  WriteText("\t\t%g, %5g, %5g, %5g, %5g, %5g\n", rec.AREA[end], rec.ASy[end], rec.ASz[end], rec.Ixx[end],
+void CProperties::WriteSectionValues(const TvtSectionRec& rec, int end) {
+  engine.WriteText("\t\t%g, %5g, %5g, %5g, %5g, %5g\n", rec.AREA[end], rec.ASy[end], rec.ASz[end], rec.Ixx[end],
             rec.Iyy[end], rec.Izz[end]);
-  WriteText("\t\t%g, %5g, %5g, %5g, %5g, %5g, %5g, %5g, %5g, %5g\n", rec.CyP[end], rec.CyM[end], rec.CzP[end],
+  engine.WriteText("\t\t%g, %5g, %5g, %5g, %5g, %5g, %5g, %5g, %5g, %5g\n", rec.CyP[end], rec.CyM[end], rec.CzP[end],
             rec.CzM[end], rec.QyB[end], rec.QzB[end], rec.PERI_OUT[end], rec.PERI_IN[end], rec.Cy[end],
             rec.Cz[end]);
 }
 
-int CS2kConverter::WriteSectionScales() {
-  const CKeyedTable<TvtSectScaleRec>& table = targetModel->SectScales;
+int CProperties::WriteSectionScales() {
+  const CKeyedTable<TvtSectScaleRec>& table = target_.SectScales;
   if (table.Empty()) return 1;
-  WriteText("%s\n", "*SECT-SCALE    ; Section Stiffness Scale Factor");
-  WriteText("; iSEC, AREA_SF, ASY_SF, ASZ_SF, IXX_SF, IYY_SF, IZZ_SF, WGT_SF\n");
+  engine.WriteText("%s\n", "*SECT-SCALE    ; Section Stiffness Scale Factor");
+  engine.WriteText("; iSEC, AREA_SF, ASY_SF, ASZ_SF, IXX_SF, IYY_SF, IZZ_SF, WGT_SF\n");
   table.Walk([&](int, const TvtSectScaleRec& rec) {
-    WriteText("\t%d, %5g, %5g, %5g, %5g, %5g, %5g, %5g\n", rec.iSEC, rec.AREA_SF, rec.ASY_SF, rec.ASZ_SF,
+    engine.WriteText("\t%d, %5g, %5g, %5g, %5g, %5g, %5g, %5g\n", rec.iSEC, rec.AREA_SF, rec.ASY_SF, rec.ASZ_SF,
               rec.IXX_SF, rec.IYY_SF, rec.IZZ_SF, rec.WGT_SF);
   });
-  WriteText("\n");
+  engine.WriteText("\n");
   return 1;
 }

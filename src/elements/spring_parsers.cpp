@@ -1,4 +1,7 @@
 // The row parsers of the spring tables.
+#include "elements/springs.h"
+
+#include "frame/converter.h"
 #include "s2k/table_parsers.h"
 
 namespace {
@@ -53,19 +56,19 @@ constexpr S2kField<S2kAreaSpringRow> kAreaSpringKeys[] = {
 
 }  // namespace
 
-int CS2kConverter::ParseJointSprings() { return ParseRows(kJointSpringKeys, sourceModel->JointSprings); }
-int CS2kConverter::ParseJointCoupledSprings() {
-  return ParseRows(kJointCoupledSpringKeys, sourceModel->JointCoupledSprings);
+int CSprings::ParseJointSprings() { return engine.ParseRows(kJointSpringKeys, source_.JointSprings); }
+int CSprings::ParseJointCoupledSprings() {
+  return engine.ParseRows(kJointCoupledSpringKeys, source_.JointCoupledSprings);
 }
-int CS2kConverter::ParseFrameSprings() { return ParseRows(kFrameSpringKeys, sourceModel->FrameSprings); }
-int CS2kConverter::ParseAreaSprings() { return ParseRows(kAreaSpringKeys, sourceModel->AreaSprings); }
+int CSprings::ParseFrameSprings() { return engine.ParseRows(kFrameSpringKeys, source_.FrameSprings); }
+int CSprings::ParseAreaSprings() { return engine.ParseRows(kAreaSpringKeys, source_.AreaSprings); }
 
 const std::vector<S2kTableParser>& SpringTableParsers() {
   static const std::vector<S2kTableParser> parsers = {
-      {127, RunStep<&CS2kConverter::ParseAreaSprings>},
-      {258, RunStep<&CS2kConverter::ParseFrameSprings>},
-      {342, RunStep<&CS2kConverter::ParseJointSprings>},
-      {343, RunStep<&CS2kConverter::ParseJointCoupledSprings>},
+      {127, RunStep<&CSprings::ParseAreaSprings>},
+      {258, RunStep<&CSprings::ParseFrameSprings>},
+      {342, RunStep<&CSprings::ParseJointSprings>},
+      {343, RunStep<&CSprings::ParseJointCoupledSprings>},
   };
   return parsers;
 }

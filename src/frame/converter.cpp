@@ -30,16 +30,6 @@ void CS2kConverter::ShowMessage(const char* key, const std::string& argument) {
 
 void CS2kConverter::ResetConversion() {
   subjects_.clear();
-  geometryFlags = {};
-  massFlags = {};
-  propertyFlags = {};
-  elementFlags = {};
-  springFlags = {};
-  ElementsRenumbered = 0;
-  ElementNamesNumeric = 1;
-  solidNodeCount = 8;
-  targetModel->jointsKeepNumbers = 1;
-  elementNumberMap.Reset(10001);
 }
 
 int CS2kConverter::Run(const std::string& inputPath) {

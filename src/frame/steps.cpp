@@ -6,7 +6,12 @@
 
 #include "dynamics/analysis_controls.h"
 #include "dynamics/response_spectrum.h"
+#include "elements/elements.h"
+#include "elements/properties.h"
+#include "elements/springs.h"
 #include "frame/converter.h"
+#include "geometry/geometry.h"
+#include "geometry/masses.h"
 #include "loads/joint_loads.h"
 #include "loads/load_cases.h"
 #include "loads/load_combinations.h"
@@ -18,37 +23,37 @@ using E = CS2kConverter;
 
 constexpr SRunStep kConversionSteps[] = {
     // 1 joints; the joint number map comes last, once all joints are known
-    {1, RunStep<&E::ConvertJoints>},
-    {1, RunStep<&E::ConvertRestraints>},
-    {1, RunStep<&E::ConvertJointLocalAxes>},
-    {1, RunStep<&E::ConvertJointSprings>},
-    {1, RunStep<&E::ConvertCoupledSprings>},
+    {1, RunStep<&CGeometry::ConvertJoints>},
+    {1, RunStep<&CGeometry::ConvertRestraints>},
+    {1, RunStep<&CGeometry::ConvertJointLocalAxes>},
+    {1, RunStep<&CSprings::ConvertJointSprings>},
+    {1, RunStep<&CSprings::ConvertCoupledSprings>},
     {1, RunStep<&CJointLoads::ConvertJointForces>},
-    {1, RunStep<&E::ConvertJointMasses>},
-    {1, RunStep<&E::ConvertConstraints>},
+    {1, RunStep<&CMasses::ConvertJointMasses>},
+    {1, RunStep<&CGeometry::ConvertConstraints>},
     {1, RunStep<&CJointLoads::ConvertJointGroundDisplacements>},
-    {1, RunStep<&E::BuildJointNumberMapIfRenumbered>},
+    {1, RunStep<&CGeometry::BuildJointNumberMapIfRenumbered>},
     // 2 frames
-    {2, RunStep<&E::ConvertFrames>},
-    {2, RunStep<&E::ConvertFrameReleases>},
-    {2, RunStep<&E::ConvertFrameOffsets>},
-    {2, RunStep<&E::ConvertLineSprings, 1>},
-    {2, RunStep<&E::ConvertFrameMasses>},
+    {2, RunStep<&CElements::ConvertFrames>},
+    {2, RunStep<&CElements::ConvertFrameReleases>},
+    {2, RunStep<&CElements::ConvertFrameOffsets>},
+    {2, RunStep<&CSprings::ConvertLineSprings, 1>},
+    {2, RunStep<&CMasses::ConvertFrameMasses>},
     // 3 links
     // 4 areas
-    {4, RunStep<&E::ConvertAreas>},
-    {4, RunStep<&E::ConvertAreaMasses>},
-    {4, RunStep<&E::ConvertLineSprings, 2>},
+    {4, RunStep<&CElements::ConvertAreas>},
+    {4, RunStep<&CMasses::ConvertAreaMasses>},
+    {4, RunStep<&CSprings::ConvertLineSprings, 2>},
     // 5 solids
-    {5, RunStep<&E::ConvertSolids>},
+    {5, RunStep<&CElements::ConvertSolids>},
     // 6 load cases: self weight
     {6, RunStep<&CLoadCases::ConvertSelfWeight>},
     // 7 materials
-    {7, RunStep<&E::ConvertMaterials>},
+    {7, RunStep<&CProperties::ConvertMaterials>},
     // 8 frame sections, nonprismatic sections, scale factors
-    {8, RunStep<&E::ConvertFrameSections>},
+    {8, RunStep<&CProperties::ConvertFrameSections>},
     // 9 area sections to thickness
-    {9, RunStep<&E::ConvertAreaSections>},
+    {9, RunStep<&CElements::ConvertAreaSections>},
     // 10 lanes; 11 vehicles of table 162; 12 vehicles of tables 163 and 164;
     // 13 vehicle classes; 14 moving load cases
     {15, RunStep<&CResponseSpectrum::ConvertSpectrumFunctions>},
@@ -63,24 +68,24 @@ constexpr SRunStep kConversionSteps[] = {
 };
 
 constexpr SRunStep kWriterSteps[] = {
-    {1, RunStep<&E::WriteVersionAndUnits>},  // *VERSION, *UNIT
+    {1, RunStep<&CGeometry::WriteVersionAndUnits>},  // *VERSION, *UNIT
     {2, RunStep<&E::WriteStructType>},       // *STRUCTYPE
-    {3, RunStep<&E::WriteNodes>},            // *NODE
-    {4, RunStep<&E::WriteLocalAxes>},        // *LOCALAXIS
-    {5, RunStep<&E::WriteElements>},         // *ELEMENT
-    {6, RunStep<&E::WriteMaterials>},        // *MATERIAL
-    {7, RunStep<&E::WriteSections>},         // *SECTION
-    {8, RunStep<&E::WriteSectionScales>},    // *SECT-SCALE
-    {9, RunStep<&E::WriteThicknesses>},      // *THICKNESS
-    {10, RunStep<&E::WriteConstraints>},     // *CONSTRAINT
-    {11, RunStep<&E::WriteSprings>},         // *SPRING
-    {12, RunStep<&E::WriteGeneralSprings>},  // *GSPRING, *GSPRTYPE
+    {3, RunStep<&CGeometry::WriteNodes>},            // *NODE
+    {4, RunStep<&CGeometry::WriteLocalAxes>},        // *LOCALAXIS
+    {5, RunStep<&CElements::WriteElements>},         // *ELEMENT
+    {6, RunStep<&CProperties::WriteMaterials>},        // *MATERIAL
+    {7, RunStep<&CProperties::WriteSections>},         // *SECTION
+    {8, RunStep<&CProperties::WriteSectionScales>},    // *SECT-SCALE
+    {9, RunStep<&CElements::WriteThicknesses>},      // *THICKNESS
+    {10, RunStep<&CGeometry::WriteConstraints>},     // *CONSTRAINT
+    {11, RunStep<&CSprings::WriteSprings>},         // *SPRING
+    {12, RunStep<&CSprings::WriteGeneralSprings>},  // *GSPRING, *GSPRTYPE
     {13, RunStep<&CLoadCases::WriteStaticLoads>},  // *STLDCASE and the load blocks of each case
-    {14, RunStep<&E::WriteNodalMasses>},     // *NODALMASS
-    {15, RunStep<&E::WriteOffsets>},         // *OFFSET
-    {16, RunStep<&E::WriteFrameReleases>},   // *FRAME-RLS
+    {14, RunStep<&CMasses::WriteNodalMasses>},     // *NODALMASS
+    {15, RunStep<&CElements::WriteOffsets>},         // *OFFSET
+    {16, RunStep<&CElements::WriteFrameReleases>},   // *FRAME-RLS
     // 17 *INIFORCE; 18 *ELASTICLINK; 19 *NL-PROP; 20 *NL-LINK
-    {21, RunStep<&E::WriteRigidLinks>},      // *RIGIDLINK
+    {21, RunStep<&CGeometry::WriteRigidLinks>},      // *RIGIDLINK
     // 22 *LINELANE; 23 *VEHICLE; 24 *VCLASS; 25 *MVLDCASE
     {26, RunStep<&CResponseSpectrum::WriteSfunctions>},  // *SFUNCTION
     {27, RunStep<&CResponseSpectrum::WriteSpldcases>},   // *SPLDCASE

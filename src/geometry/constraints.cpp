@@ -1,32 +1,33 @@
 // Joint constraints to *RIGIDLINK.
 #include <unordered_set>
 
+#include "geometry/geometry.h"
+
 #include "frame/converter.h"
+#include "geometry/masses.h"
 
-namespace {
-
-using Kind = CS2kConverter::ConstraintMasterKind;
+using Kind = CGeometry::ConstraintMasterKind;
 
 // The steps every family takes. \p dofOf fills the DOF from the definition
 // row and returns false to make no link; a constraint without a definition
 // row is linked with an empty DOF.
 template <class Row, class DofOf>
-void MakeRigidLink(CS2kConverter& engine, const std::string& name, Kind kind, const CKeyedTable<Row>& definitions,
+void CGeometry::MakeRigidLink(const std::string& name, Kind kind, const CKeyedTable<Row>& definitions,
                    const CNameIndex<Row>& index, int& counter, DofOf dofOf) {
   TvtRigidlinkRec rec;
-  if (!engine.CollectConstraintJoints(name, kind, rec.M_NODE, rec.S_NODE_LIST)) return;
+  if (!CollectConstraintJoints(name, kind, rec.M_NODE, rec.S_NODE_LIST)) return;
   if (definitions.Empty()) return;
   const Row* row = index.Find(definitions, name);
   if (row && !dofOf(*row, rec.DOF)) return;
-  engine.targetModel->RigidLinks.SetAt(++counter, rec);
+  target_.RigidLinks.SetAt(++counter, rec);
 }
 
 // A constraint about an axis other than X, Y or Z had its axis chosen by
 // the program, which the target can't take.
 template <class Row>
-void MakeAxisLink(CS2kConverter& engine, const std::string& name, Kind kind, const CKeyedTable<Row>& definitions,
+void CGeometry::MakeAxisLink(const std::string& name, Kind kind, const CKeyedTable<Row>& definitions,
                   const CNameIndex<Row>& index, int& counter) {
-  MakeRigidLink(engine, name, kind, definitions, index, counter, [&](const Row& row, std::string& dof) {
+  MakeRigidLink(name, kind, definitions, index, counter, [&](const Row& row, std::string& dof) {
     if (row.Axis == "X")
       dof = "011100";
     else if (row.Axis == "Y")
@@ -34,42 +35,40 @@ void MakeAxisLink(CS2kConverter& engine, const std::string& name, Kind kind, con
     else if (row.Axis == "Z")
       dof = "110001";
     else
-      engine.targetModel->ConstraintAutoAxisSeen = 1;
+      target_.ConstraintAutoAxisSeen = 1;
     return !dof.empty();
   });
 }
 
-void MakeDofLink(CS2kConverter& engine, const std::string& name, const CKeyedTable<S2kConstraintBodyRow>& definitions,
-                 const CNameIndex<S2kConstraintBodyRow>& index, int& counter) {
-  MakeRigidLink(engine, name, Kind::FirstMember, definitions, index, counter,
+void CGeometry::MakeDofLink(const std::string& name, const CKeyedTable<S2kConstraintBodyRow>& definitions,
+                            const CNameIndex<S2kConstraintBodyRow>& index, int& counter) {
+  MakeRigidLink(name, Kind::FirstMember, definitions, index, counter,
                 [](const S2kConstraintBodyRow& row, std::string& dof) {
                   for (int flag : {row.UX, row.UY, row.UZ, row.RX, row.RY, row.RZ}) dof += flag ? '1' : '0';
                   return true;
                 });
 }
 
-}  // namespace
-
-int CS2kConverter::CollectConstraintJoints(const std::string& name, ConstraintMasterKind kind, std::string& outMaster,
+int CGeometry::CollectConstraintJoints(const std::string& name, ConstraintMasterKind kind, std::string& outMaster,
                                            std::string& outSlaves) {
   outMaster.clear();
   outSlaves.clear();
-  if (sourceModel->JointConstraintAssignments.Empty()) return 1;
-  auto found = constraintMembers.find(name);
-  if (found == constraintMembers.end() || found->second.size() < 2) return 0;
+  if (source_.JointConstraintAssignments.Empty()) return 1;
+  auto found = constraintMembers_.find(name);
+  if (found == constraintMembers_.end() || found->second.size() < 2) return 0;
   std::vector<std::string> members = found->second;
 
   // By added masses the master is the member of the first mass row in the
   // walk; with masses elsewhere only, there is no master and the first
   // member is lost all the same.
   bool removed = false;
-  if (kind != ConstraintMasterKind::ByMass || sourceModel->JointMasses.Empty()) {
+  if (kind != ConstraintMasterKind::ByMass || !engine.Get<CMasses>().HasJointMasses()) {
     outMaster = members[0];
   } else {
     std::size_t best = members.size(), bestRow = 0;
     for (std::size_t i = 0; i < members.size(); ++i) {
-      auto row = firstMassRowOf.find(members[i]);
-      if (row != firstMassRowOf.end() && (best == members.size() || row->second < bestRow)) {
+      auto row = firstMassRowOf_.find(members[i]);
+      if (row != firstMassRowOf_.end() && (best == members.size() || row->second < bestRow)) {
         best = i;
         bestRow = row->second;
       }
@@ -86,59 +85,56 @@ int CS2kConverter::CollectConstraintJoints(const std::string& name, ConstraintMa
   return 1;
 }
 
-void CS2kConverter::ConvertBeamConstraint(const std::string& name, int& counter) {
-  MakeAxisLink(*this, name, Kind::AlongAxis, sourceModel->ConstraintBeam, sourceModel->beamsByName, counter);
+void CGeometry::ConvertBeamConstraint(const std::string& name, int& counter) {
+  MakeAxisLink(name, Kind::AlongAxis, source_.ConstraintBeam, source_.beamsByName, counter);
 }
-void CS2kConverter::ConvertDiaphragmConstraint(const std::string& name, int& counter) {
-  MakeAxisLink(*this, name, Kind::ByMass, sourceModel->ConstraintDiaphragm, sourceModel->diaphragmsByName, counter);
+void CGeometry::ConvertDiaphragmConstraint(const std::string& name, int& counter) {
+  MakeAxisLink(name, Kind::ByMass, source_.ConstraintDiaphragm, source_.diaphragmsByName, counter);
 }
-void CS2kConverter::ConvertPlateConstraint(const std::string& name, int& counter) {
-  MakeAxisLink(*this, name, Kind::ByMass, sourceModel->ConstraintPlate, sourceModel->platesByName, counter);
+void CGeometry::ConvertPlateConstraint(const std::string& name, int& counter) {
+  MakeAxisLink(name, Kind::ByMass, source_.ConstraintPlate, source_.platesByName, counter);
 }
-void CS2kConverter::ConvertRodConstraint(const std::string& name, int& counter) {
-  MakeAxisLink(*this, name, Kind::AlongAxis, sourceModel->ConstraintRod, sourceModel->rodsByName, counter);
+void CGeometry::ConvertRodConstraint(const std::string& name, int& counter) {
+  MakeAxisLink(name, Kind::AlongAxis, source_.ConstraintRod, source_.rodsByName, counter);
 }
-void CS2kConverter::ConvertBodyConstraint(const std::string& name, int& counter) {
-  MakeDofLink(*this, name, sourceModel->ConstraintBody, sourceModel->bodiesByName, counter);
+void CGeometry::ConvertBodyConstraint(const std::string& name, int& counter) {
+  MakeDofLink(name, source_.ConstraintBody, source_.bodiesByName, counter);
 }
-void CS2kConverter::ConvertEqualConstraint(const std::string& name, int& counter) {
-  MakeDofLink(*this, name, sourceModel->ConstraintEqual, sourceModel->equalsByName, counter);
+void CGeometry::ConvertEqualConstraint(const std::string& name, int& counter) {
+  MakeDofLink(name, source_.ConstraintEqual, source_.equalsByName, counter);
 }
-void CS2kConverter::ConvertLineConstraint(const std::string& name, int& counter) {
-  MakeDofLink(*this, name, sourceModel->ConstraintLine, sourceModel->linesByName, counter);
+void CGeometry::ConvertLineConstraint(const std::string& name, int& counter) {
+  MakeDofLink(name, source_.ConstraintLine, source_.linesByName, counter);
 }
-void CS2kConverter::ConvertWeldConstraint(const std::string& name, int& counter) {
-  MakeDofLink(*this, name, sourceModel->ConstraintWeld, sourceModel->weldsByName, counter);
+void CGeometry::ConvertWeldConstraint(const std::string& name, int& counter) {
+  MakeDofLink(name, source_.ConstraintWeld, source_.weldsByName, counter);
 }
 // Local axes of a constraint can't be carried; only the writer says so.
-void CS2kConverter::ConvertLocalConstraint(const std::string&, int&) { targetModel->ConstraintLocalSeen = 1; }
+void CGeometry::ConvertLocalConstraint(const std::string&, int&) { target_.ConstraintLocalSeen = 1; }
 
-int CS2kConverter::ConvertConstraints() {
-  const CKeyedTable<S2kJointConstraintAssignmentsRow>& assignments = sourceModel->JointConstraintAssignments;
+int CGeometry::ConvertConstraints() {
+  const CKeyedTable<S2kJointConstraintAssignmentsRow>& assignments = source_.JointConstraintAssignments;
   if (assignments.Empty()) return 1;
 
   // Members in the order of the rows. The node map is filled only at the end
   // of the joint step, so under renumbering every member is the text that a
   // node number of 0 printed as a text gives.
-  constraintMembers.clear();
+  constraintMembers_.clear();
   for (int key = 1; key <= assignments.Count(); ++key)
     if (const S2kJointConstraintAssignmentsRow* row = assignments.Lookup(key))
-      constraintMembers[row->Constraint].push_back(targetModel->jointsKeepNumbers ? row->Joint : "(null)");
-  firstMassRowOf.clear();
-  std::size_t position = 0;
-  sourceModel->JointMasses.Walk(
-      [&](int, const S2kJointMassRow& row) { firstMassRowOf.try_emplace(row.Joint, position++); });
+      constraintMembers_[row->Constraint].push_back(target_.jointsKeepNumbers ? row->Joint : "(null)");
+  firstMassRowOf_ = engine.Get<CMasses>().FirstJointMassRows();
 
-  using Operation = void (CS2kConverter::*)(const std::string&, int&);
+  using Operation = void (CGeometry::*)(const std::string&, int&);
   static constexpr struct {
     const char* type;
     Operation convert;
   } kFamilies[] = {
-      {"Beam", &CS2kConverter::ConvertBeamConstraint},   {"Body", &CS2kConverter::ConvertBodyConstraint},
-      {"Diaphragm", &CS2kConverter::ConvertDiaphragmConstraint}, {"Equal", &CS2kConverter::ConvertEqualConstraint},
-      {"Line", &CS2kConverter::ConvertLineConstraint},   {"Local", &CS2kConverter::ConvertLocalConstraint},
-      {"Plate", &CS2kConverter::ConvertPlateConstraint}, {"Rod", &CS2kConverter::ConvertRodConstraint},
-      {"Weld", &CS2kConverter::ConvertWeldConstraint},
+      {"Beam", &CGeometry::ConvertBeamConstraint},   {"Body", &CGeometry::ConvertBodyConstraint},
+      {"Diaphragm", &CGeometry::ConvertDiaphragmConstraint}, {"Equal", &CGeometry::ConvertEqualConstraint},
+      {"Line", &CGeometry::ConvertLineConstraint},   {"Local", &CGeometry::ConvertLocalConstraint},
+      {"Plate", &CGeometry::ConvertPlateConstraint}, {"Rod", &CGeometry::ConvertRodConstraint},
+      {"Weld", &CGeometry::ConvertWeldConstraint},
   };
   std::unordered_set<std::string> handled;
   std::vector<std::string> beams, bodies;  // by ordinal, from 1
@@ -160,17 +156,17 @@ int CS2kConverter::ConvertConstraints() {
   return 1;
 }
 
-int CS2kConverter::WriteRigidLinks() {
-  const CKeyedTable<TvtRigidlinkRec>& links = targetModel->RigidLinks;
+int CGeometry::WriteRigidLinks() {
+  const CKeyedTable<TvtRigidlinkRec>& links = target_.RigidLinks;
   if (links.Empty()) return 1;
-  if (targetModel->ConstraintAutoAxisSeen) ShowMessage("IDS_S2KV8_REST_AutoAX_Not_Convert");
-  if (targetModel->ConstraintLocalSeen) ShowMessage("IDS_S2KV8_REST_Local_Not_Convert");
-  WriteText("%s\n", "*RIGIDLINK    ; Rigid Link");
-  WriteText("; M-NODE, DOF, S-NODE LIST, GROUP\n");
+  if (target_.ConstraintAutoAxisSeen) engine.ShowMessage("IDS_S2KV8_REST_AutoAX_Not_Convert");
+  if (target_.ConstraintLocalSeen) engine.ShowMessage("IDS_S2KV8_REST_Local_Not_Convert");
+  engine.WriteText("%s\n", "*RIGIDLINK    ; Rigid Link");
+  engine.WriteText("; M-NODE, DOF, S-NODE LIST, GROUP\n");
   links.Walk([&](int, const TvtRigidlinkRec& rec) {
-    WriteText("\t%s, %5s, %5s, %5s\n", rec.M_NODE.c_str(), rec.DOF.c_str(), rec.S_NODE_LIST.c_str(),
+    engine.WriteText("\t%s, %5s, %5s, %5s\n", rec.M_NODE.c_str(), rec.DOF.c_str(), rec.S_NODE_LIST.c_str(),
               rec.GROUP.c_str());
   });
-  WriteText("\n");
+  engine.WriteText("\n");
   return 1;
 }

@@ -1,4 +1,7 @@
 // The row parsers of the joint, support, constraint and local axes tables.
+#include "geometry/geometry.h"
+
+#include "frame/converter.h"
 #include "s2k/table_parsers.h"
 
 namespace {
@@ -11,13 +14,6 @@ constexpr S2kField<Joint> kJointCoordinatesKeys[] = {
     NumberKey("Z=", &Joint::Z),              FlagKey("SpecialJt=", &Joint::SpecialJt),
     NumberKey("GlobalX=", &Joint::GlobalX),  NumberKey("GlobalY=", &Joint::GlobalY),
     NumberKey("GlobalZ=", &Joint::GlobalZ),
-};
-
-using Mass = S2kJointMassRow;
-constexpr S2kField<Mass> kJointMassKeys[] = {
-    TextKey("Joint=", &Mass::Joint),  TextKey("CoordSys=", &Mass::CoordSys), NumberKey("Mass1=", &Mass::Mass1),
-    NumberKey("Mass2=", &Mass::Mass2), NumberKey("Mass3=", &Mass::Mass3),     NumberKey("MMI1=", &Mass::MMI1),
-    NumberKey("MMI2=", &Mass::MMI2),   NumberKey("MMI3=", &Mass::MMI3),
 };
 
 using Restraint = S2kJointRestraintAssignmentsRow;
@@ -81,40 +77,39 @@ constexpr S2kField<Advanced> kLocalAxesAdvancedKeys[] = {
 }  // namespace
 
 // A joint given in any system but Cartesian ends the read there, silently.
-int CS2kConverter::ParseJointCoordinates() {
+int CGeometry::ParseJointCoordinates() {
   auto cartesian = [](const std::string& rowText, S2kJointCoordinatesRow&) {
     std::vector<std::string> type;
     return !ReadStringList(rowText, "CoordType=", type) || type.empty() || type[0] == "Cartesian";
   };
-  if (!::ParseRows(rowRows, kJointCoordinatesKeys, sourceModel->JointCoordinates, cartesian)) return 0;
-  parsedRowCount += static_cast<int>(rowRows.size());
+  if (!::ParseRows(engine.rowRows, kJointCoordinatesKeys, source_.JointCoordinates, cartesian)) return 0;
+  engine.parsedRowCount += static_cast<int>(engine.rowRows.size());
   return 1;
 }
 
-int CS2kConverter::ParseJointMasses() { return ParseRows(kJointMassKeys, sourceModel->JointMasses); }
-int CS2kConverter::ParseJointRestraints() { return ParseRows(kJointRestraintKeys, sourceModel->JointRestraintAssignments); }
-int CS2kConverter::ParseJointConstraints() { return ParseRows(kJointConstraintKeys, sourceModel->JointConstraintAssignments); }
-int CS2kConverter::ParseConstraintBeam() { return ParseRows(kAxisConstraintKeys, sourceModel->ConstraintBeam); }
-int CS2kConverter::ParseConstraintBody() { return ParseRows(kDofConstraintKeys, sourceModel->ConstraintBody); }
-int CS2kConverter::ParseConstraintDiaphragm() { return ParseRows(kDiaphragmKeys, sourceModel->ConstraintDiaphragm); }
-int CS2kConverter::ParseConstraintEqual() { return ParseRows(kDofConstraintKeys, sourceModel->ConstraintEqual); }
-int CS2kConverter::ParseConstraintLine() { return ParseRows(kDofConstraintKeys, sourceModel->ConstraintLine); }
-int CS2kConverter::ParseConstraintPlate() { return ParseRows(kAxisConstraintKeys, sourceModel->ConstraintPlate); }
-int CS2kConverter::ParseConstraintRod() { return ParseRows(kAxisConstraintKeys, sourceModel->ConstraintRod); }
-int CS2kConverter::ParseConstraintWeld() { return ParseRows(kDofConstraintKeys, sourceModel->ConstraintWeld); }
-int CS2kConverter::ParseJointLocalAxes1() { return ParseRows(kLocalAxesByAnglesKeys, sourceModel->JointLocalAxes1); }
-int CS2kConverter::ParseJointLocalAxes2() { return ParseRows(kLocalAxesAdvancedKeys, sourceModel->JointLocalAxes2); }
+int CGeometry::ParseJointRestraints() { return engine.ParseRows(kJointRestraintKeys, source_.JointRestraintAssignments); }
+int CGeometry::ParseJointConstraints() { return engine.ParseRows(kJointConstraintKeys, source_.JointConstraintAssignments); }
+int CGeometry::ParseConstraintBeam() { return engine.ParseRows(kAxisConstraintKeys, source_.ConstraintBeam); }
+int CGeometry::ParseConstraintBody() { return engine.ParseRows(kDofConstraintKeys, source_.ConstraintBody); }
+int CGeometry::ParseConstraintDiaphragm() { return engine.ParseRows(kDiaphragmKeys, source_.ConstraintDiaphragm); }
+int CGeometry::ParseConstraintEqual() { return engine.ParseRows(kDofConstraintKeys, source_.ConstraintEqual); }
+int CGeometry::ParseConstraintLine() { return engine.ParseRows(kDofConstraintKeys, source_.ConstraintLine); }
+int CGeometry::ParseConstraintPlate() { return engine.ParseRows(kAxisConstraintKeys, source_.ConstraintPlate); }
+int CGeometry::ParseConstraintRod() { return engine.ParseRows(kAxisConstraintKeys, source_.ConstraintRod); }
+int CGeometry::ParseConstraintWeld() { return engine.ParseRows(kDofConstraintKeys, source_.ConstraintWeld); }
+int CGeometry::ParseJointLocalAxes1() { return engine.ParseRows(kLocalAxesByAnglesKeys, source_.JointLocalAxes1); }
+int CGeometry::ParseJointLocalAxes2() { return engine.ParseRows(kLocalAxesAdvancedKeys, source_.JointLocalAxes2); }
 
 const std::vector<S2kTableParser>& GeometryTableParsers() {
   static const std::vector<S2kTableParser> parsers = {
-      {104, RunStep<&CS2kConverter::ParseCoordinateSystem>},     {108, RunStep<&CS2kConverter::ParseProgramControl>},
-      {211, RunStep<&CS2kConverter::ParseConstraintBeam>},       {212, RunStep<&CS2kConverter::ParseConstraintBody>},
-      {213, RunStep<&CS2kConverter::ParseConstraintDiaphragm>},  {214, RunStep<&CS2kConverter::ParseConstraintEqual>},
-      {215, RunStep<&CS2kConverter::ParseConstraintLine>},       {217, RunStep<&CS2kConverter::ParseConstraintPlate>},
-      {218, RunStep<&CS2kConverter::ParseConstraintRod>},        {219, RunStep<&CS2kConverter::ParseConstraintWeld>},
-      {331, RunStep<&CS2kConverter::ParseJointMasses>},          {332, RunStep<&CS2kConverter::ParseJointConstraints>},
-      {333, RunStep<&CS2kConverter::ParseJointCoordinates>},     {336, RunStep<&CS2kConverter::ParseJointLocalAxes1>},
-      {337, RunStep<&CS2kConverter::ParseJointLocalAxes2>},      {341, RunStep<&CS2kConverter::ParseJointRestraints>},
+      {104, RunStep<&CGeometry::ParseCoordinateSystem>},     {108, RunStep<&CGeometry::ParseProgramControl>},
+      {211, RunStep<&CGeometry::ParseConstraintBeam>},       {212, RunStep<&CGeometry::ParseConstraintBody>},
+      {213, RunStep<&CGeometry::ParseConstraintDiaphragm>},  {214, RunStep<&CGeometry::ParseConstraintEqual>},
+      {215, RunStep<&CGeometry::ParseConstraintLine>},       {217, RunStep<&CGeometry::ParseConstraintPlate>},
+      {218, RunStep<&CGeometry::ParseConstraintRod>},        {219, RunStep<&CGeometry::ParseConstraintWeld>},
+      {332, RunStep<&CGeometry::ParseJointConstraints>},
+      {333, RunStep<&CGeometry::ParseJointCoordinates>},     {336, RunStep<&CGeometry::ParseJointLocalAxes1>},
+      {337, RunStep<&CGeometry::ParseJointLocalAxes2>},      {341, RunStep<&CGeometry::ParseJointRestraints>},
   };
   return parsers;
 }

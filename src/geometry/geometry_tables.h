@@ -23,12 +23,6 @@ struct S2kJointCoordinatesRow {
   double GlobalX = 0, GlobalY = 0, GlobalZ = 0;
 };
 
-/// Table 331: masses added at joints.
-struct S2kJointMassRow {
-  std::string Joint, CoordSys;
-  double Mass1 = 0, Mass2 = 0, Mass3 = 0, MMI1 = 0, MMI2 = 0, MMI3 = 0;
-};
-
 /// Table 341: flags set where the joint is held.
 struct S2kJointRestraintAssignmentsRow {
   std::string Joint;
@@ -79,7 +73,6 @@ struct S2kJointLocalAxes2Row {
 struct S2kGeometryTables {
   void Reset() {
     JointCoordinates.Reset(10001);
-    JointMasses.Reset(10001);
     JointRestraintAssignments.Reset(10001);
     JointConstraintAssignments.Reset(10001);
     ConstraintBeam.Reset(17);
@@ -98,7 +91,6 @@ struct S2kGeometryTables {
   std::string ForceUnit, LengthUnit, TemperatureUnit;
   S2kCoordinateSystemRec CoordinateSystem;  // 104
 
-  CKeyedTable<S2kJointMassRow> JointMasses;                                        // 331
   CKeyedTable<S2kJointConstraintAssignmentsRow> JointConstraintAssignments;        // 332
   CKeyedTable<S2kJointCoordinatesRow> JointCoordinates;                            // 333
   CKeyedTable<S2kJointLocalAxes1Row> JointLocalAxes1;                              // 336

@@ -1,5 +1,12 @@
 // Joints to nodes: table 333, the joint number map and *NODE.
+#include "geometry/geometry.h"
+
 #include "frame/converter.h"
+
+CGeometry::CGeometry(CS2kConverter& engine) : CSubject(engine) {
+  source_.Reset();
+  target_.Reset();
+}
 
 int TvtGeometryTables::LookupNodeNumber(const std::string& name, int& number) const {
   if (jointNumberMap.Empty()) return 1;
@@ -9,56 +16,73 @@ int TvtGeometryTables::LookupNodeNumber(const std::string& name, int& number) co
   return 1;
 }
 
-int CS2kConverter::NodeNumberOf(const std::string& name) const {
+int CGeometry::NodeNumberOf(const std::string& name) const {
   int number = 0;
-  if (targetModel->jointsKeepNumbers)
+  if (target_.jointsKeepNumbers)
     number = ParseInt(name);
   else
-    targetModel->LookupNodeNumber(name, number);
+    target_.LookupNodeNumber(name, number);
   return number;
 }
 
+void CGeometry::ResolveNodeNumber(const std::string& name, int& number) const {
+  if (target_.jointsKeepNumbers)
+    number = ParseInt(name);
+  else
+    target_.LookupNodeNumber(name, number);
+}
+
+int CGeometry::FindJointGlobalCoordinates(const std::string& name, double& x, double& y, double& z) const {
+  x = y = z = 0;
+  const S2kJointCoordinatesRow* row = jointCoordinateNames_.Find(source_.JointCoordinates, name);
+  if (!row) return 0;
+  x = row->GlobalX;
+  y = row->GlobalY;
+  z = row->GlobalZ;
+  return 1;
+}
+
 // One name that is not all digits turns the whole model to renumbering.
-int CS2kConverter::ConvertJoints() {
+int CGeometry::ConvertJoints() {
   int ok = 1;
-  sourceModel->JointCoordinates.Walk([&](int key, const S2kJointCoordinatesRow& row) {
+  source_.JointCoordinates.Walk([&](int key, const S2kJointCoordinatesRow& row) {
     if (!ok) return;
     for (char ch : row.Joint)
-      if (!IsDigit(ch)) targetModel->jointsKeepNumbers = 0;
-    ok = targetModel->Nodes.SetAt(key, TvtNodeRec{row.Joint, row.GlobalX, row.GlobalY, row.GlobalZ});
+      if (!IsDigit(ch)) target_.jointsKeepNumbers = 0;
+    ok = target_.Nodes.SetAt(key, TvtNodeRec{row.Joint, row.GlobalX, row.GlobalY, row.GlobalZ});
   });
   return ok;
 }
 
 // Under renumbering a joint's node is the position of its row.
-int CS2kConverter::BuildJointNumberMap() {
+int CGeometry::BuildJointNumberMap() {
   int ok = 1;
-  sourceModel->JointCoordinates.Walk([&](int key, const S2kJointCoordinatesRow& row) {
-    if (ok) ok = targetModel->jointNumberMap.SetAt(key, TvtJointNumberRec{key, key, row.Joint});
+  source_.JointCoordinates.Walk([&](int key, const S2kJointCoordinatesRow& row) {
+    if (ok) ok = target_.jointNumberMap.SetAt(key, TvtJointNumberRec{key, key, row.Joint});
   });
   return ok;
 }
 
-int CS2kConverter::BuildJointNumberMapIfRenumbered() {
-  return targetModel->jointsKeepNumbers || BuildJointNumberMap();
+int CGeometry::BuildJointNumberMapIfRenumbered() {
+  return target_.jointsKeepNumbers || BuildJointNumberMap();
 }
 
-int CS2kConverter::WriteNodes() {
-  const CKeyedTable<TvtNodeRec>& nodes = targetModel->Nodes;
+int CGeometry::WriteNodes() {
+  const CKeyedTable<TvtNodeRec>& nodes = target_.Nodes;
   if (nodes.Empty()) return 1;
-  const bool renumbered = !targetModel->jointsKeepNumbers;
-  if (renumbered) ShowMessage("IDS_S2KV8_NODE_Renumbering");
-  WriteText("%s\n", "*NODE    ; Nodes");
-  WriteText("; iNO, X, Y, Z\n");
+  const bool renumbered = !target_.jointsKeepNumbers;
+  if (renumbered) engine.ShowMessage("IDS_S2KV8_NODE_Renumbering");
+  engine.WriteText("%s\n", "*NODE    ; Nodes");
+  engine.WriteText("; iNO, X, Y, Z\n");
   TvtNodeRec node;
   for (int key = 1; key <= nodes.Count(); ++key) {
     nodes.Lookup(key, node);  // a missing key writes the previous node again
     int number = NodeNumberOf(node.Name);
     if (renumbered)
-      WriteText("\t%d, %5g, %5g, %5g \t\t;Joint=%s\n", number, node.X, node.Y, node.Z, node.Name.c_str());
+      engine.WriteText("\t%d, %5g, %5g, %5g \t\t;Joint=%s\n", number, node.X, node.Y, node.Z, node.Name.c_str());
     else
-      WriteText("\t%d, %5g, %5g, %5g\n", number, node.X, node.Y, node.Z);
+      engine.WriteText("\t%d, %5g, %5g, %5g\n", number, node.X, node.Y, node.Z);
   }
-  WriteText("\n");
+  engine.WriteText("\n");
   return 1;
 }

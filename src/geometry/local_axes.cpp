@@ -2,6 +2,8 @@
 #include <array>
 #include <cmath>
 
+#include "geometry/geometry.h"
+
 #include "frame/converter.h"
 
 namespace {
@@ -36,7 +38,7 @@ Vector Direction(const std::string& word) {
 
 // Turns (a, b, c) by the joint's M or by its transpose; tiny results
 // become 0. Without any record nothing changes and the result is 1.
-int TurnVector(const CTvtModel& target, const std::string& joint, bool transpose, double& a, double& b, double& c) {
+int TurnVector(const TvtGeometryTables& target, const std::string& joint, bool transpose, double& a, double& b, double& c) {
   if (target.JointRotations.Empty()) return 1;
   const TvtJointRotationRec* rec = target.FindJointRotation(joint);
   if (!rec) return 0;
@@ -73,25 +75,25 @@ int TvtGeometryTables::StoreJointRotation(const TvtJointRotationRec& rec, bool r
   return JointRotations.SetAt(key, rec);
 }
 
-int CS2kConverter::HasJointLocalAxes(const std::string& joint) const {
-  return targetModel->FindJointRotation(joint) != nullptr;
+int CGeometry::HasJointLocalAxes(const std::string& joint) const {
+  return target_.FindJointRotation(joint) != nullptr;
 }
 
-int CS2kConverter::LocalToGlobal(const std::string& joint, double& a, double& b, double& c) const {
-  return TurnVector(*targetModel, joint, false, a, b, c);
+int CGeometry::LocalToGlobal(const std::string& joint, double& a, double& b, double& c) const {
+  return TurnVector(target_, joint, false, a, b, c);
 }
 
-int CS2kConverter::GlobalToLocal(const std::string& joint, double& a, double& b, double& c) const {
-  return TurnVector(*targetModel, joint, true, a, b, c);
+int CGeometry::GlobalToLocal(const std::string& joint, double& a, double& b, double& c) const {
+  return TurnVector(target_, joint, true, a, b, c);
 }
 
 // The program's pi stops at 3.141592, and its angles with it.
-void CS2kConverter::RotationFromAngles(const std::string& joint, double x, double y, double z) {
+void CGeometry::RotationFromAngles(const std::string& joint, double x, double y, double z) {
   constexpr double kRadiansPerDegree = 0.01745328888888889;
   x *= kRadiansPerDegree;
   y *= kRadiansPerDegree;
   z *= kRadiansPerDegree;
-  const double tolerance = targetModel->ZeroTolerance;
+  const double tolerance = engine.ZeroTolerance;
   Matrix m = kIdentity;
   bool any = false;
   auto apply = [&](double angle, const Matrix& turn) {
@@ -105,13 +107,13 @@ void CS2kConverter::RotationFromAngles(const std::string& joint, double x, doubl
   TvtJointRotationRec rec{joint};
   for (int i = 0; i < 3; ++i)
     for (int j = 0; j < 3; ++j) rec.M[i][j] = m[i][j];
-  targetModel->StoreJointRotation(rec, false);
+  target_.StoreJointRotation(rec, false);
 }
 
 // Axes from an axis vector A and a plane vector B, as table 337 gives them.
-void CS2kConverter::ApplyAdvancedLocalAxes(TvtLocalAxisRec& rec) {
+void CGeometry::ApplyAdvancedLocalAxes(TvtLocalAxisRec& rec) {
   const S2kJointLocalAxes2Row* row =
-      sourceModel->advancedAxesByJoint.Find(sourceModel->JointLocalAxes2, rec.NODE_LIST);
+      source_.advancedAxesByJoint.Find(source_.JointLocalAxes2, rec.NODE_LIST);
   if (!row) return;
   auto vectorOf = [&](const std::string& option, const std::string& direction, const std::string& from,
                       const std::string& to, const Vector& user) -> Vector {
@@ -156,11 +158,11 @@ void CS2kConverter::ApplyAdvancedLocalAxes(TvtLocalAxisRec& rec) {
   double sums[3];
   for (int k = 0; k < 3; ++k)
     sums[k] = std::pow(axes[k][0], 2) + std::pow(axes[k][1], 2) + std::pow(axes[k][2], 2);
-  const double tolerance = targetModel->ZeroTolerance;
+  const double tolerance = engine.ZeroTolerance;
   if (!(sums[0] < tolerance || sums[1] < tolerance || sums[2] < tolerance))
     for (int k = 0; k < 3; ++k)
       for (int i = 0; i < 3; ++i) rotation.M[i][k] = axes[k][i] / std::sqrt(sums[k]);
-  targetModel->StoreJointRotation(rotation, true);
+  target_.StoreJointRotation(rotation, true);
 
   rec.iMETHOD = 3;
   rec.V1X = v1[0];
@@ -171,9 +173,9 @@ void CS2kConverter::ApplyAdvancedLocalAxes(TvtLocalAxisRec& rec) {
   rec.V2Z = v2[2];
 }
 
-int CS2kConverter::ConvertJointLocalAxes() {
+int CGeometry::ConvertJointLocalAxes() {
   int ok = 1;
-  sourceModel->JointLocalAxes1.Walk([&](int key, const S2kJointLocalAxes1Row& row) {
+  source_.JointLocalAxes1.Walk([&](int key, const S2kJointLocalAxes1Row& row) {
     if (!ok) return;
     TvtLocalAxisRec rec;
     rec.NODE_LIST = row.Joint;
@@ -182,29 +184,29 @@ int CS2kConverter::ConvertJointLocalAxes() {
     rec.ANGLE_x = row.AngleC;
     rec.ANGLE_y = row.AngleB;
     rec.ANGLE_z = row.AngleA;
-    if (std::fabs(row.AngleC) + std::fabs(row.AngleB) + std::fabs(row.AngleA) > ZeroTolerance)
+    if (std::fabs(row.AngleC) + std::fabs(row.AngleB) + std::fabs(row.AngleA) > engine.ZeroTolerance)
       RotationFromAngles(row.Joint, row.AngleC, row.AngleB, row.AngleA);
     if (row.AdvanceAxes) ApplyAdvancedLocalAxes(rec);
-    ok = targetModel->LocalAxes.SetAt(key, rec);
+    ok = target_.LocalAxes.SetAt(key, rec);
   });
   return ok;
 }
 
-int CS2kConverter::WriteLocalAxes() {
-  const CKeyedTable<TvtLocalAxisRec>& axes = targetModel->LocalAxes;
+int CGeometry::WriteLocalAxes() {
+  const CKeyedTable<TvtLocalAxisRec>& axes = target_.LocalAxes;
   if (axes.Empty()) return 1;
-  WriteText("%s\n", "*LOCALAXIS    ; Node Local Axis");
-  WriteText("; NODE_LIST, iMETHOD, ANGLE-x, ANGLE-y, ANGLE-z                    ; iMETHOD=1\n");
-  WriteText("; NODE_LIST, iMETHOD, P0X, P0Y, P0Z, P1X, P1Y, P1Z, P2X, P2Y, P2Z  ; iMETHOD=2\n");
-  WriteText("; NODE_LIST, iMETHOD, V1X, V1Y, V1Z, V2X, V2Y, V2Z                 ; iMETHOD=3\n");
+  engine.WriteText("%s\n", "*LOCALAXIS    ; Node Local Axis");
+  engine.WriteText("; NODE_LIST, iMETHOD, ANGLE-x, ANGLE-y, ANGLE-z                    ; iMETHOD=1\n");
+  engine.WriteText("; NODE_LIST, iMETHOD, P0X, P0Y, P0Z, P1X, P1Y, P1Z, P2X, P2Y, P2Z  ; iMETHOD=2\n");
+  engine.WriteText("; NODE_LIST, iMETHOD, V1X, V1Y, V1Z, V2X, V2Y, V2Z                 ; iMETHOD=3\n");
   axes.ForEachKey([&](int, const TvtLocalAxisRec& rec) {
     int number = NodeNumberOf(rec.NODE_LIST);
     if (rec.iMETHOD == 1)
-      WriteText("\t%d, %5d, %5g, %5g, %5g\n", number, 1, rec.ANGLE_x, rec.ANGLE_y, rec.ANGLE_z);
+      engine.WriteText("\t%d, %5d, %5g, %5g, %5g\n", number, 1, rec.ANGLE_x, rec.ANGLE_y, rec.ANGLE_z);
     else if (rec.iMETHOD == 3)
-      WriteText("\t%d, %5d, %5g, %5g, %5g, %5g, %5g, %5g\n", number, 3, rec.V1X, rec.V1Y, rec.V1Z, rec.V2X, rec.V2Y,
+      engine.WriteText("\t%d, %5d, %5g, %5g, %5g, %5g, %5g, %5g\n", number, 3, rec.V1X, rec.V1Y, rec.V1Z, rec.V2X, rec.V2Y,
                 rec.V2Z);
   });
-  WriteText("\n");
+  engine.WriteText("\n");
   return 1;
 }

@@ -6,6 +6,12 @@
 
 #include "s2k/keyed_table.h"
 
+/// Table 331: masses added at joints.
+struct S2kJointMassRow {
+  std::string Joint, CoordSys;
+  double Mass1 = 0, Mass2 = 0, Mass3 = 0, MMI1 = 0, MMI2 = 0, MMI3 = 0;
+};
+
 /// Table 231: mass per length of a frame.
 struct S2kFrameMassRow {
   std::string Frame;
@@ -29,10 +35,12 @@ struct MassRunFlags {};
 
 struct S2kMassTables {
   void Reset() {
+    JointMasses.Reset(10001);
     FrameMasses.Reset(10001);
     AreaMasses.Reset(17);
   }
 
+  CKeyedTable<S2kJointMassRow> JointMasses;  // 331
   CKeyedTable<S2kFrameMassRow> FrameMasses;  // 231
   CKeyedTable<S2kAreaMassRow> AreaMasses;    // 111
 };

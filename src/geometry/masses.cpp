@@ -1,7 +1,16 @@
 // Joint, frame and area masses to *NODALMASS.
 #include <initializer_list>
 
+#include "geometry/masses.h"
+
 #include "frame/converter.h"
+#include "elements/elements.h"
+#include "geometry/geometry.h"
+
+CMasses::CMasses(CS2kConverter& engine) : CSubject(engine) {
+  source_.Reset();
+  target_.Reset();
+}
 
 void TvtMassTables::MergeNodalMass(const std::string& name, int& key, TvtNodalmassRec& record) {
   if (NodalMasses.Empty()) {
@@ -41,25 +50,25 @@ void TvtMassTables::MergeNodalMass(const std::string& name, int& key, TvtNodalma
   nodalMassKeys_[name] = key;
 }
 
-int CS2kConverter::AddNodalMass(TvtNodalmassRec record) {
+int CMasses::AddNodalMass(TvtNodalmassRec record) {
   int key = 1;
-  targetModel->MergeNodalMass(record.NODE_LIST, key, record);
-  return targetModel->NodalMasses.SetAt(key, record);
+  target_.MergeNodalMass(record.NODE_LIST, key, record);
+  return target_.NodalMasses.SetAt(key, record);
 }
 
-int CS2kConverter::ConvertJointMasses() {
-  for (int key : sourceModel->JointMasses.WalkKeys()) {
-    S2kJointMassRow row = *sourceModel->JointMasses.Lookup(key);
+int CMasses::ConvertJointMasses() {
+  for (int key : source_.JointMasses.WalkKeys()) {
+    S2kJointMassRow row = *source_.JointMasses.Lookup(key);
     if (row.CoordSys == "Local") {
-      LocalToGlobal(row.Joint, row.Mass1, row.Mass2, row.Mass3);
-      LocalToGlobal(row.Joint, row.MMI1, row.MMI2, row.MMI3);
+      engine.Get<CGeometry>().LocalToGlobal(row.Joint, row.Mass1, row.Mass2, row.Mass3);
+      engine.Get<CGeometry>().LocalToGlobal(row.Joint, row.MMI1, row.MMI2, row.MMI3);
     }
     if (!AddNodalMass({row.Joint, row.Mass1, row.Mass2, row.Mass3, row.MMI1, row.MMI2, row.MMI3})) return 0;
   }
   return 1;
 }
 
-int CS2kConverter::LumpNodalMass(std::initializer_list<const std::string*> joints, double m) {
+int CMasses::LumpNodalMass(std::initializer_list<const std::string*> joints, double m) {
   for (const std::string* joint : joints)
     if (!AddNodalMass({*joint, m, m, m, 0, 0, 0})) return 0;
   return 1;
@@ -67,11 +76,11 @@ int CS2kConverter::LumpNodalMass(std::initializer_list<const std::string*> joint
 
 // Half of a frame's mass goes to each end. A frame without connectivity
 // lumps nothing onto the empty name.
-int CS2kConverter::ConvertFrameMasses() {
-  for (int key : sourceModel->FrameMasses.WalkKeys()) {
-    const S2kFrameMassRow& row = *sourceModel->FrameMasses.Lookup(key);
+int CMasses::ConvertFrameMasses() {
+  for (int key : source_.FrameMasses.WalkKeys()) {
+    const S2kFrameMassRow& row = *source_.FrameMasses.Lookup(key);
     static const S2kConnectivityFrameRow kNoFrame;
-    const S2kConnectivityFrameRow* found = FindFrameConnectivity(row.Frame);
+    const S2kConnectivityFrameRow* found = engine.Get<CElements>().FindFrameConnectivity(row.Frame);
     const S2kConnectivityFrameRow& frame = found ? *found : kNoFrame;
     if (!LumpNodalMass({&frame.JointI, &frame.JointJ}, row.MassPerLen * frame.Length / 2)) return 0;
   }
@@ -80,11 +89,11 @@ int CS2kConverter::ConvertFrameMasses() {
 
 // A quarter of an area's mass goes to each of its four joint names, so a
 // triangle's fourth share goes to the empty name.
-int CS2kConverter::ConvertAreaMasses() {
-  for (int key : sourceModel->AreaMasses.WalkKeys()) {
-    const S2kAreaMassRow& row = *sourceModel->AreaMasses.Lookup(key);
+int CMasses::ConvertAreaMasses() {
+  for (int key : source_.AreaMasses.WalkKeys()) {
+    const S2kAreaMassRow& row = *source_.AreaMasses.Lookup(key);
     static const S2kConnectivityAreaRow kNoArea;
-    const S2kConnectivityAreaRow* found = FindAreaConnectivity(row.Area);
+    const S2kConnectivityAreaRow* found = engine.Get<CElements>().FindAreaConnectivity(row.Area);
     const S2kConnectivityAreaRow& area = found ? *found : kNoArea;
     if (!LumpNodalMass({&area.Joint1, &area.Joint2, &area.Joint3, &area.Joint4}, row.MassPerArea * area.AreaArea / 4))
       return 0;
@@ -92,15 +101,22 @@ int CS2kConverter::ConvertAreaMasses() {
   return 1;
 }
 
-int CS2kConverter::WriteNodalMasses() {
-  const auto& masses = targetModel->NodalMasses;
+int CMasses::WriteNodalMasses() {
+  const auto& masses = target_.NodalMasses;
   if (masses.Empty()) return 1;
-  WriteText("%s\n", "*NODALMASS    ; Nodal Masses");
-  WriteText("; NODE_LIST, mX, mY, mZ, rmX, rmY, rmZ\n");
+  engine.WriteText("%s\n", "*NODALMASS    ; Nodal Masses");
+  engine.WriteText("; NODE_LIST, mX, mY, mZ, rmX, rmY, rmZ\n");
   masses.ForEachKey([&](int, const TvtNodalmassRec& rec) {
-    WriteText("\t%d, %5g, %5g, %5g, %5g, %5g, %5g\n", NodeNumberOf(rec.NODE_LIST), rec.mX, rec.mY, rec.mZ, rec.rmX,
+    engine.WriteText("\t%d, %5g, %5g, %5g, %5g, %5g, %5g\n", engine.Get<CGeometry>().NodeNumberOf(rec.NODE_LIST), rec.mX, rec.mY, rec.mZ, rec.rmX,
               rec.rmY, rec.rmZ);
   });
-  WriteText("\n");
+  engine.WriteText("\n");
   return 1;
+}
+
+std::unordered_map<std::string, std::size_t> CMasses::FirstJointMassRows() const {
+  std::unordered_map<std::string, std::size_t> rows;
+  std::size_t position = 0;
+  source_.JointMasses.Walk([&](int, const S2kJointMassRow& row) { rows.try_emplace(row.Joint, position++); });
+  return rows;
 }

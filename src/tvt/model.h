@@ -3,11 +3,6 @@
 
 #include <string>
 
-#include "elements/element_tables.h"
-#include "elements/property_tables.h"
-#include "elements/spring_tables.h"
-#include "geometry/geometry_tables.h"
-#include "geometry/mass_tables.h"
 
 class CS2kModel;
 
@@ -22,21 +17,11 @@ struct TvtStructTypeRec {
   int present = 0;
 };
 
-class CTvtModel : public TvtGeometryTables,
-                  public TvtMassTables,
-                  public TvtPropertyTables,
-                  public TvtElementTables,
-                  public TvtSpringTables {
+class CTvtModel {
  public:
   explicit CTvtModel(const CS2kModel& source) : sourceModel(source) {}
 
-  void Reset() {
-    TvtGeometryTables::Reset();
-    TvtMassTables::Reset();
-    TvtPropertyTables::Reset();
-    TvtElementTables::Reset();
-    TvtSpringTables::Reset();
-  }
+  void Reset() { StructType = {}; }
 
   const CS2kModel& sourceModel;
   TvtStructTypeRec StructType;

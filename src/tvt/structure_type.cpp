@@ -1,6 +1,7 @@
 // *STRUCTYPE: the active degrees of freedom (table 101) and the record.
 #include "dynamics/analysis_controls.h"
 #include "frame/converter.h"
+#include "geometry/geometry.h"
 #include "s2k/table_parsers.h"
 
 namespace {
@@ -42,7 +43,7 @@ int CS2kConverter::ConvertStructType() {
   // Masses from elements: by the structure type.
   static constexpr int kMassKinds[] = {1, 3, 3, 2};
   rec.iSMAS = Get<CAnalysisControls>().MassFromElements() ? kMassKinds[rec.iSTYP] : 0;
-  rec.GRAV = GravityInModelUnits();
+  rec.GRAV = Get<CGeometry>().GravityInModelUnits();
   rec.TEMPER = 0;
   rec.bALIGNBEAM = "NO";
   rec.bALIGNSLAB = "NO";

@@ -52,17 +52,3 @@ int CS2kConverter::WriteCommands() {
   ui_.SetRange(kWriterStepCount);
   return RunSteps(WriterSteps(), kWriterStepCount);
 }
-
-int CS2kConverter::WriteVersionAndUnits() {
-  WriteText("%s\n%s\n\n", "*VERSION", "5.8.1");
-  WriteText("%s\n", "*UNIT    ; Unit System");
-  WriteText("; FORCE, LENGTH\n");
-  std::string force = sourceModel->ForceUnit;
-  std::string length = sourceModel->LengthUnit;
-  UpperCase(force);
-  UpperCase(length);
-  if (force == "TON") force = "TONF";
-  if (force == "LB") force = "LBF";
-  WriteText("\t%s, %5s\n\n", force.c_str(), length.c_str());
-  return 1;
-}

@@ -3,6 +3,7 @@
 
 #include "frame/converter.h"
 #include "recording_ui.h"
+#include "subject_access.h"
 
 namespace {
 
@@ -30,7 +31,7 @@ S2kFrameSectionRow Section(const std::string& name, const std::string& material,
 // nonprismatic section takes the material of its first segment's start.
 TEST(FindFrameSection, TiesAssignmentsByPositionAndFollowsTapers) {
   Engine e;
-  auto& source = *e.engine.sourceModel;
+  auto& source = SourceOf<CProperties>(e.engine);
   for (const char* name : {"M1", "M2"}) {
     S2kMaterial1Row row;
     row.Material = name;
@@ -57,7 +58,7 @@ TEST(FindFrameSection, TiesAssignmentsByPositionAndFollowsTapers) {
   // Key 5's material is unknown: the number of the walk's last row (1).
   for (const Case& c : {Case{1, 2, 2}, Case{2, 1, 1}, Case{3, 3, 2}, Case{4, 1, 1}, Case{5, 4, 1}, Case{6, 1, 1}}) {
     int iPRO = 1, iMAT = 1;
-    e.engine.FindFrameSection(c.key, iPRO, iMAT);
+    e.engine.Get<CProperties>().FindFrameSection(c.key, iPRO, iMAT);
     EXPECT_EQ(c.iPRO, iPRO) << c.key;
     EXPECT_EQ(c.iMAT, iMAT) << c.key;
   }
@@ -66,9 +67,9 @@ TEST(FindFrameSection, TiesAssignmentsByPositionAndFollowsTapers) {
 TEST(FindElementNumber, MatchesNameAndKindFirstInWalkOrder) {
   Engine e;
   int number = 7;
-  EXPECT_EQ(1, e.engine.FindElementNumber("1", "FRAME", number)) << "an empty map finds everything";
+  EXPECT_EQ(1, e.engine.Get<CElements>().FindElementNumber("1", "FRAME", number)) << "an empty map finds everything";
   EXPECT_EQ(7, number);
-  auto& map = e.engine.elementNumberMap;
+  auto& map = SubjectAccess::ElementNumberMap(e.engine);
   map.SetAt(1, TvtElementMapEntry{1, 1, "A", "FRAME"});
   map.SetAt(2, TvtElementMapEntry{2, 2, "A", "AREA"});
   map.SetAt(3, TvtElementMapEntry{3, 3, "A", "FRAME"});  // same bucket, newer: walked first
@@ -80,14 +81,14 @@ TEST(FindElementNumber, MatchesNameAndKindFirstInWalkOrder) {
   for (const Case& c : {Case{"A", "FRAME", 1, 3}, Case{"A", "AREA", 1, 2}, Case{"B", "SOLID", 1, 17},
                         Case{"B", "FRAME", 0, -1}, Case{"a", "FRAME", 0, -1}}) {
     number = -1;
-    EXPECT_EQ(c.found, e.engine.FindElementNumber(c.name, c.kind, number)) << c.name << c.kind;
+    EXPECT_EQ(c.found, e.engine.Get<CElements>().FindElementNumber(c.name, c.kind, number)) << c.name << c.kind;
     EXPECT_EQ(c.number, number) << c.name << c.kind;
   }
-  e.engine.ElementsRenumbered = 1;
-  EXPECT_EQ(0, e.engine.ElementNumberOf("B", "AREA"));
-  EXPECT_EQ(2, e.engine.ElementNumberOf("A", "AREA"));
-  e.engine.ElementsRenumbered = 0;
-  EXPECT_EQ(12, e.engine.ElementNumberOf(" 12x", "AREA")) << "kept numbers read the name";
+  SubjectAccess::ElementsRenumbered(e.engine) = 1;
+  EXPECT_EQ(0, e.engine.Get<CElements>().ElementNumberOf("B", "AREA"));
+  EXPECT_EQ(2, e.engine.Get<CElements>().ElementNumberOf("A", "AREA"));
+  SubjectAccess::ElementsRenumbered(e.engine) = 0;
+  EXPECT_EQ(12, e.engine.Get<CElements>().ElementNumberOf(" 12x", "AREA")) << "kept numbers read the name";
 }
 
 TEST(ElementNames, OnlyDigitsKeepNumbers) {
@@ -97,8 +98,8 @@ TEST(ElementNames, OnlyDigitsKeepNumbers) {
   };
   for (const Case& c : {Case{"12", 1}, Case{"", 1}, Case{"007", 1}, Case{"-3", 0}, Case{"1 ", 0}, Case{"B1", 0}}) {
     Engine e;
-    e.engine.NoteElementName(c.name);
-    EXPECT_EQ(c.numeric, e.engine.ElementNamesNumeric) << '"' << c.name << '"';
+    e.engine.Get<CElements>().NoteElementName(c.name);
+    EXPECT_EQ(c.numeric, SubjectAccess::ElementNamesNumeric(e.engine)) << '"' << c.name << '"';
   }
 }
 
@@ -106,9 +107,9 @@ TEST(ElementNames, OnlyDigitsKeepNumbers) {
 TEST(ElementParsers, ReadTheirKeys) {
   Engine e;
   e.engine.rowRows = {"Section=S   AreaType=Plane   Type=Plane-Strain   Thickness=0.2", "Section=T   AreaType=Shell"};
-  ASSERT_EQ(1, e.engine.ParseAreaSection());
-  const auto* first = e.engine.sourceModel->AreaSection.Lookup(1);
-  const auto* second = e.engine.sourceModel->AreaSection.Lookup(2);
+  ASSERT_EQ(1, e.engine.Get<CElements>().ParseAreaSection());
+  const auto* first = SourceOf<CElements>(e.engine).AreaSection.Lookup(1);
+  const auto* second = SourceOf<CElements>(e.engine).AreaSection.Lookup(2);
   ASSERT_TRUE(first && second);
   EXPECT_EQ("Plane", first->AreaType);
   EXPECT_EQ("Plane-Strain", first->Type);
@@ -116,8 +117,8 @@ TEST(ElementParsers, ReadTheirKeys) {
   EXPECT_EQ("", second->Type);
 
   e.engine.rowRows = {"Frame=F   PI=Yes   V2I=YES   M3J=Yes   PartialFix=Yes"};
-  ASSERT_EQ(1, e.engine.ParseFrameRelease());
-  const auto* release = e.engine.sourceModel->FrameRelease.Lookup(1);
+  ASSERT_EQ(1, e.engine.Get<CElements>().ParseFrameRelease());
+  const auto* release = SourceOf<CElements>(e.engine).FrameRelease.Lookup(1);
   ASSERT_TRUE(release);
   EXPECT_EQ(1, release->PI);
   EXPECT_EQ(0, release->V2I);

@@ -5,6 +5,7 @@
 #include <random>
 
 #include "geometry_engine.h"
+#include "subject_access.h"
 
 namespace {
 
@@ -12,7 +13,7 @@ constexpr double kShortPi = 3.141592;
 
 struct Engine : GeometryEngine {
   const TvtJointRotationRec& Rotation(const std::string& joint) {
-    const TvtJointRotationRec* rec = engine.targetModel->FindJointRotation(joint);
+    const TvtJointRotationRec* rec = TargetOf<CGeometry>(engine).FindJointRotation(joint);
     EXPECT_NE(nullptr, rec) << joint;
     static const TvtJointRotationRec identity;
     return rec ? *rec : identity;
@@ -40,13 +41,13 @@ TEST(RotationFromAngles, TurnsAboutXThenYThenZWithTheShortPi) {
   for (const Case& c : {Case{0, 0, 0}, Case{30, 0, 0}, Case{0, 30, 0}, Case{0, 0, 30}, Case{90, 0, 0},
                         Case{0, 90, 0}, Case{0, 0, 90}, Case{30, 30, 30}, Case{90, 30, -45}}) {
     Engine e;
-    e.engine.RotationFromAngles("J", c.x, c.y, c.z);
+    e.engine.Get<CGeometry>().RotationFromAngles("J", c.x, c.y, c.z);
     SCOPED_TRACE(testing::Message() << c.x << " " << c.y << " " << c.z);
     ExpectEulerMatrix(e.Rotation("J"), c.x, c.y, c.z);
   }
   // The short pi leaves cos 90 just off zero.
   Engine e;
-  e.engine.RotationFromAngles("J", 90, 0, 0);
+  e.engine.Get<CGeometry>().RotationFromAngles("J", 90, 0, 0);
   const double off = std::cos(90 * 0.01745328888888889);
   EXPECT_EQ(off, e.Rotation("J").M[1][1]);
   EXPECT_GT(off, 1e-7);
@@ -55,9 +56,9 @@ TEST(RotationFromAngles, TurnsAboutXThenYThenZWithTheShortPi) {
 
 TEST(RotationFromAngles, SingleAxisGivesThePlainMatrixExactly) {
   Engine e;
-  e.engine.RotationFromAngles("X30", 30, 0, 0);
-  e.engine.RotationFromAngles("Z30", 0, 0, 30);
-  e.engine.RotationFromAngles("none", 0, 0, 0);
+  e.engine.Get<CGeometry>().RotationFromAngles("X30", 30, 0, 0);
+  e.engine.Get<CGeometry>().RotationFromAngles("Z30", 0, 0, 30);
+  e.engine.Get<CGeometry>().RotationFromAngles("none", 0, 0, 0);
   const double c = std::cos(30 * 0.01745328888888889), s = std::sin(30 * 0.01745328888888889);
   const double x30[3][3] = {{1, 0, 0}, {0, c, -s}, {0, s, c}};
   const double z30[3][3] = {{c, -s, 0}, {s, c, 0}, {0, 0, 1}};
@@ -68,7 +69,7 @@ TEST(RotationFromAngles, SingleAxisGivesThePlainMatrixExactly) {
       EXPECT_EQ(z30[i][j], e.Rotation("Z30").M[i][j]);
       EXPECT_EQ(none[i][j], e.Rotation("none").M[i][j]);
     }
-  EXPECT_EQ(3, e.engine.targetModel->JointRotations.Count());
+  EXPECT_EQ(3, TargetOf<CGeometry>(e.engine).JointRotations.Count());
 }
 
 TEST(LocalToGlobal, TurnsByTheMatrixAndCutsBelowOneHundredThousandth) {
@@ -87,9 +88,9 @@ TEST(LocalToGlobal, TurnsByTheMatrixAndCutsBelowOneHundredThousandth) {
            Case{0, 0, 30, {1e-6, 0, 0}, {0, 0, 0}},  // small genuine values go too
        }) {
     Engine e;
-    e.engine.RotationFromAngles("J", c.x, c.y, c.z);
+    e.engine.Get<CGeometry>().RotationFromAngles("J", c.x, c.y, c.z);
     double v[3] = {c.in[0], c.in[1], c.in[2]};
-    EXPECT_EQ(1, e.engine.LocalToGlobal("J", v[0], v[1], v[2]));
+    EXPECT_EQ(1, e.engine.Get<CGeometry>().LocalToGlobal("J", v[0], v[1], v[2]));
     for (int i = 0; i < 3; ++i) {
       SCOPED_TRACE(testing::Message() << c.x << " " << c.y << " " << c.z << " " << i);
       if (c.global[i] == 0)
@@ -98,7 +99,7 @@ TEST(LocalToGlobal, TurnsByTheMatrixAndCutsBelowOneHundredThousandth) {
         EXPECT_NEAR(c.global[i], v[i], 1e-12);
     }
     // And back by the transpose.
-    EXPECT_EQ(1, e.engine.GlobalToLocal("J", v[0], v[1], v[2]));
+    EXPECT_EQ(1, e.engine.Get<CGeometry>().GlobalToLocal("J", v[0], v[1], v[2]));
     for (int i = 0; i < 3; ++i)
       if (std::fabs(c.in[i]) >= 1e-5) {
         EXPECT_NEAR(c.in[i], v[i], 1e-5) << i;
@@ -109,17 +110,17 @@ TEST(LocalToGlobal, TurnsByTheMatrixAndCutsBelowOneHundredThousandth) {
 TEST(LocalToGlobal, LeavesVectorsAloneWithoutARecord) {
   Engine e;
   double a = 1e-9, b = 2, c = -3;
-  EXPECT_EQ(1, e.engine.LocalToGlobal("J", a, b, c));  // no record at all
-  EXPECT_EQ(1, e.engine.GlobalToLocal("J", a, b, c));
-  EXPECT_EQ(0, e.engine.HasJointLocalAxes("J"));
-  e.engine.RotationFromAngles("other", 0, 0, 30);
-  EXPECT_EQ(0, e.engine.LocalToGlobal("J", a, b, c));  // records, none of this joint
-  EXPECT_EQ(0, e.engine.GlobalToLocal("J", a, b, c));
+  EXPECT_EQ(1, e.engine.Get<CGeometry>().LocalToGlobal("J", a, b, c));  // no record at all
+  EXPECT_EQ(1, e.engine.Get<CGeometry>().GlobalToLocal("J", a, b, c));
+  EXPECT_EQ(0, e.engine.Get<CGeometry>().HasJointLocalAxes("J"));
+  e.engine.Get<CGeometry>().RotationFromAngles("other", 0, 0, 30);
+  EXPECT_EQ(0, e.engine.Get<CGeometry>().LocalToGlobal("J", a, b, c));  // records, none of this joint
+  EXPECT_EQ(0, e.engine.Get<CGeometry>().GlobalToLocal("J", a, b, c));
   EXPECT_EQ(1e-9, a);  // no cut-off either
   EXPECT_EQ(2, b);
   EXPECT_EQ(-3, c);
-  EXPECT_EQ(1, e.engine.HasJointLocalAxes("other"));
-  EXPECT_EQ(0, e.engine.HasJointLocalAxes("Other"));
+  EXPECT_EQ(1, e.engine.Get<CGeometry>().HasJointLocalAxes("other"));
+  EXPECT_EQ(0, e.engine.Get<CGeometry>().HasJointLocalAxes("Other"));
 }
 
 // The name lookup must find what a walk of the records finds first, also
@@ -127,7 +128,7 @@ TEST(LocalToGlobal, LeavesVectorsAloneWithoutARecord) {
 TEST(JointRotations, FindTheRecordAWalkMeetsFirst) {
   for (int buckets : {17, 10001}) {
     Engine e;
-    TvtGeometryTables& tables = *e.engine.targetModel;
+    TvtGeometryTables& tables = TargetOf<CGeometry>(e.engine);
     tables.JointRotations.Reset(buckets);
     std::mt19937 random(buckets);
     const std::vector<std::string> names = {"A", "B", "C", "D", "E", "F", "G"};
@@ -154,7 +155,7 @@ TEST(JointRotations, FindTheRecordAWalkMeetsFirst) {
 
 TEST(JointRotations, ReplaceKeepsTheKeyAndAddingTakesTheNext) {
   Engine e;
-  TvtGeometryTables& tables = *e.engine.targetModel;
+  TvtGeometryTables& tables = TargetOf<CGeometry>(e.engine);
   TvtJointRotationRec a{"A"}, b{"B"};
   a.M[2][2] = 5;
   tables.StoreJointRotation(a, true);  // nothing to replace: added under 1
@@ -171,7 +172,7 @@ TEST(JointRotations, ReplaceKeepsTheKeyAndAddingTakesTheNext) {
 // Angles and advanced axes together, through the conversion.
 TEST(ConvertJointLocalAxes, RecordsOnlyTurnedJointsAndReplacesForAdvancedAxes) {
   Engine e;
-  auto& typical = e.engine.sourceModel->JointLocalAxes1;
+  auto& typical = SourceOf<CGeometry>(e.engine).JointLocalAxes1;
   typical.SetAt(1, S2kJointLocalAxes1Row{"zero", 0, 0, 0, 0});
   typical.SetAt(2, S2kJointLocalAxes1Row{"turned", 0, 0, 30, 1});
   typical.SetAt(3, S2kJointLocalAxes1Row{"parallel", 0, 0, 0, 1});
@@ -185,14 +186,14 @@ TEST(ConvertJointLocalAxes, RecordsOnlyTurnedJointsAndReplacesForAdvancedAxes) {
   parallel.Joint = "parallel";
   parallel.PlVecZ = 0;
   parallel.PlVecY = -1;
-  e.engine.sourceModel->JointLocalAxes2.SetAt(1, turned);
-  e.engine.sourceModel->JointLocalAxes2.SetAt(2, parallel);
-  ASSERT_EQ(1, e.engine.ConvertJointLocalAxes());
+  SourceOf<CGeometry>(e.engine).JointLocalAxes2.SetAt(1, turned);
+  SourceOf<CGeometry>(e.engine).JointLocalAxes2.SetAt(2, parallel);
+  ASSERT_EQ(1, e.engine.Get<CGeometry>().ConvertJointLocalAxes());
 
-  EXPECT_EQ(0, e.engine.HasJointLocalAxes("zero"));
-  EXPECT_EQ(1, e.engine.HasJointLocalAxes("turned"));
-  EXPECT_EQ(1, e.engine.HasJointLocalAxes("parallel"));
-  EXPECT_EQ(2, e.engine.targetModel->JointRotations.Count());
+  EXPECT_EQ(0, e.engine.Get<CGeometry>().HasJointLocalAxes("zero"));
+  EXPECT_EQ(1, e.engine.Get<CGeometry>().HasJointLocalAxes("turned"));
+  EXPECT_EQ(1, e.engine.Get<CGeometry>().HasJointLocalAxes("parallel"));
+  EXPECT_EQ(2, TargetOf<CGeometry>(e.engine).JointRotations.Count());
   // Axis 1 along global Y, axis 2 along global Z: the angles' record is replaced.
   const double want[3][3] = {{0, 0, 1}, {1, 0, 0}, {0, 1, 0}};
   for (int i = 0; i < 3; ++i)
@@ -201,7 +202,7 @@ TEST(ConvertJointLocalAxes, RecordsOnlyTurnedJointsAndReplacesForAdvancedAxes) {
   for (int i = 0; i < 3; ++i)
     for (int j = 0; j < 3; ++j) EXPECT_EQ(i == j ? 1 : 0, e.Rotation("parallel").M[i][j]);
   // The lines keep the vectors as they were, not made unit.
-  const TvtLocalAxisRec* line = e.engine.targetModel->LocalAxes.Lookup(2);
+  const TvtLocalAxisRec* line = TargetOf<CGeometry>(e.engine).LocalAxes.Lookup(2);
   ASSERT_NE(nullptr, line);
   EXPECT_EQ(3, line->iMETHOD);
   EXPECT_EQ((std::vector<double>{0, 2, 0, 0, 0, 12}),
@@ -213,15 +214,15 @@ TEST(ConvertJointLocalAxes, RecordsOnlyTurnedJointsAndReplacesForAdvancedAxes) {
 // (an infinite vector) is divided through like any other.
 TEST(ConvertJointLocalAxes, InfiniteVectorGivesNoNumberAxesNotGlobalOnes) {
   Engine e;
-  e.engine.sourceModel->JointLocalAxes1.SetAt(1, S2kJointLocalAxes1Row{"far", 0, 0, 0, 1});
+  SourceOf<CGeometry>(e.engine).JointLocalAxes1.SetAt(1, S2kJointLocalAxes1Row{"far", 0, 0, 0, 1});
   S2kJointLocalAxes2Row far;
   far.Joint = "far";
   far.LocalPlane = "12";
   far.AxOption1 = far.PlOption1 = "User Vector";
   far.AxVecX = INFINITY;
   far.PlVecY = 1;
-  e.engine.sourceModel->JointLocalAxes2.SetAt(1, far);
-  ASSERT_EQ(1, e.engine.ConvertJointLocalAxes());
+  SourceOf<CGeometry>(e.engine).JointLocalAxes2.SetAt(1, far);
+  ASSERT_EQ(1, e.engine.Get<CGeometry>().ConvertJointLocalAxes());
   for (int i = 0; i < 3; ++i) EXPECT_TRUE(std::isnan(e.Rotation("far").M[i][1])) << i;
 }
 

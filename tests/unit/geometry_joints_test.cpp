@@ -4,6 +4,7 @@
 #include <random>
 
 #include "geometry_engine.h"
+#include "subject_access.h"
 
 namespace {
 
@@ -18,7 +19,7 @@ Row Named(const std::string& joint) {
 
 TEST(LookupNodeNumber, EmptyMapAndUnknownNamesLeaveTheNumber) {
   Engine e;
-  CTvtModel& target = *e.engine.targetModel;
+  TvtGeometryTables& target = TargetOf<CGeometry>(e.engine);
   int number = 42;
   EXPECT_EQ(1, target.LookupNodeNumber("A", number));  // empty map
   EXPECT_EQ(42, number);
@@ -36,7 +37,7 @@ TEST(LookupNodeNumber, EmptyMapAndUnknownNamesLeaveTheNumber) {
 TEST(LookupNodeNumber, FindsWhatTheWalkFindsFirst) {
   for (int buckets : {17, 10001}) {
     Engine e;
-    CTvtModel& target = *e.engine.targetModel;
+    TvtGeometryTables& target = TargetOf<CGeometry>(e.engine);
     target.jointNumberMap.Reset(buckets);
     std::mt19937 random(buckets);
     std::vector<int> keys(900);
@@ -64,12 +65,12 @@ TEST(NodeNumberOf, AtoiForKeptNumbersAndTheMapOtherwise) {
   };
   for (const Case& c : {Case{"12", 12}, Case{"007", 7}, Case{"A", 0}, Case{"", 0}, Case{"4294967303", 7},
                         Case{"-3", -3}, Case{" 5", 5}})
-    EXPECT_EQ(c.kept, engine.NodeNumberOf(c.name)) << c.name;
-  engine.targetModel->jointsKeepNumbers = 0;
-  EXPECT_EQ(0, engine.NodeNumberOf("12"));  // empty map
-  engine.targetModel->jointNumberMap.SetAt(3, TvtJointNumberRec{3, 3, "12"});
-  EXPECT_EQ(3, engine.NodeNumberOf("12"));
-  EXPECT_EQ(0, engine.NodeNumberOf("007"));
+    EXPECT_EQ(c.kept, engine.Get<CGeometry>().NodeNumberOf(c.name)) << c.name;
+  TargetOf<CGeometry>(engine).jointsKeepNumbers = 0;
+  EXPECT_EQ(0, engine.Get<CGeometry>().NodeNumberOf("12"));  // empty map
+  TargetOf<CGeometry>(engine).jointNumberMap.SetAt(3, TvtJointNumberRec{3, 3, "12"});
+  EXPECT_EQ(3, engine.Get<CGeometry>().NodeNumberOf("12"));
+  EXPECT_EQ(0, engine.Get<CGeometry>().NodeNumberOf("007"));
 }
 
 TEST(ConvertJoints, OneNameNotAllDigitsRenumbersTheModel) {
@@ -81,10 +82,10 @@ TEST(ConvertJoints, OneNameNotAllDigitsRenumbersTheModel) {
                         Case{{"1", "A1"}, 0}, Case{{"-1"}, 0}, Case{{"1 "}, 0}, Case{{"+1"}, 0}, Case{{"1.0"}, 0}}) {
     Engine e;
     for (std::size_t i = 0; i < c.names.size(); ++i)
-      e.engine.sourceModel->JointCoordinates.SetAt(static_cast<int>(i + 1), Named<S2kJointCoordinatesRow>(c.names[i]));
-    ASSERT_EQ(1, e.engine.ConvertJoints());
-    EXPECT_EQ(c.keep, e.engine.targetModel->jointsKeepNumbers) << testing::PrintToString(c.names);
-    EXPECT_EQ(static_cast<int>(c.names.size()), e.engine.targetModel->Nodes.Count());
+      SourceOf<CGeometry>(e.engine).JointCoordinates.SetAt(static_cast<int>(i + 1), Named<S2kJointCoordinatesRow>(c.names[i]));
+    ASSERT_EQ(1, e.engine.Get<CGeometry>().ConvertJoints());
+    EXPECT_EQ(c.keep, TargetOf<CGeometry>(e.engine).jointsKeepNumbers) << testing::PrintToString(c.names);
+    EXPECT_EQ(static_cast<int>(c.names.size()), TargetOf<CGeometry>(e.engine).Nodes.Count());
   }
 }
 
@@ -97,8 +98,8 @@ TEST(Units, GravityByLengthUnitAndTemperaturesInCelsius) {
                            Gravity{"mm", 9.806 * 0.001}, Gravity{"in", 9.806 * 39.3701}, Gravity{"ft", 9.806 * 3.2808},
                            Gravity{"km", 9.806}, Gravity{"", 9.806}}) {
     Engine e;
-    e.engine.sourceModel->LengthUnit = c.length;
-    EXPECT_EQ(c.want, e.engine.GravityInModelUnits()) << c.length;
+    SourceOf<CGeometry>(e.engine).LengthUnit = c.length;
+    EXPECT_EQ(c.want, e.engine.Get<CGeometry>().GravityInModelUnits()) << c.length;
   }
   struct Temperature {
     std::string unit;
@@ -108,8 +109,8 @@ TEST(Units, GravityByLengthUnitAndTemperaturesInCelsius) {
                                Temperature{"f", 32, 0}, Temperature{"F", -40, -40}, Temperature{"K", 300, 0},
                                Temperature{"", 20, 0}}) {
     Engine e;
-    e.engine.sourceModel->TemperatureUnit = c.unit;
-    EXPECT_DOUBLE_EQ(c.want, e.engine.ToCelsius(c.value)) << c.unit << " " << c.value;
+    SourceOf<CGeometry>(e.engine).TemperatureUnit = c.unit;
+    EXPECT_DOUBLE_EQ(c.want, e.engine.Get<CGeometry>().ToCelsius(c.value)) << c.unit << " " << c.value;
   }
 }
 
@@ -132,15 +133,15 @@ TEST(ConvertConstraints, DiaphragmMastersByAddedMass) {
            Case{{"1", "2"}, {"1", "2", "9", "9"}, "2", "1"},
        }) {
     Engine e;
-    CS2kModel& source = *e.engine.sourceModel;
+    S2kGeometryTables& source = SourceOf<CGeometry>(e.engine);
     for (std::size_t i = 0; i < c.members.size(); ++i)
       source.JointConstraintAssignments.SetAt(static_cast<int>(i + 1),
                                               S2kJointConstraintAssignmentsRow{c.members[i], "D1", "Diaphragm"});
     for (std::size_t i = 0; i < c.massJoints.size(); ++i)
-      source.JointMasses.SetAt(static_cast<int>(i + 1), Named<S2kJointMassRow>(c.massJoints[i]));
+      SourceOf<CMasses>(e.engine).JointMasses.SetAt(static_cast<int>(i + 1), Named<S2kJointMassRow>(c.massJoints[i]));
     source.ConstraintDiaphragm.SetAt(1, S2kConstraintDiaphragmRow{"D1", "GLOBAL", "Z"});
-    ASSERT_EQ(1, e.engine.ConvertConstraints());
-    const TvtRigidlinkRec* link = e.engine.targetModel->RigidLinks.Lookup(1);
+    ASSERT_EQ(1, e.engine.Get<CGeometry>().ConvertConstraints());
+    const TvtRigidlinkRec* link = TargetOf<CGeometry>(e.engine).RigidLinks.Lookup(1);
     ASSERT_NE(nullptr, link);
     EXPECT_EQ(c.master, link->M_NODE) << testing::PrintToString(c.massJoints);
     EXPECT_EQ(c.slaves, link->S_NODE_LIST) << testing::PrintToString(c.massJoints);

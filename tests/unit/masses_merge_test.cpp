@@ -1,8 +1,7 @@
 // Merging nodal masses by joint name.
 #include <gtest/gtest.h>
 
-#include "tvt/model.h"
-#include "s2k/model.h"
+#include "geometry/mass_tables.h"
 
 namespace {
 

@@ -5,6 +5,7 @@
 
 #include "frame/converter.h"
 #include "recording_ui.h"
+#include "subject_access.h"
 
 namespace {
 
@@ -31,11 +32,11 @@ TEST(FindMaterialNumber, FoundNotFoundAndEmpty) {
   CS2kConverter engine(ui);
   engine.sourceModel->Reset();
   int number = 1;
-  EXPECT_EQ(0, engine.FindMaterialNumber("STEEL", number));
+  EXPECT_EQ(0, engine.Get<CProperties>().FindMaterialNumber("STEEL", number));
   EXPECT_EQ(1, number) << "an empty table leaves the number";
 
   // 20 rows in 17 buckets walk 15..1, then 20..16.
-  CKeyedTable<S2kMaterial1Row>& table = engine.sourceModel->Material1;
+  CKeyedTable<S2kMaterial1Row>& table = SourceOf<CProperties>(engine).Material1;
   for (int key = 1; key <= 20; ++key) table.SetAt(key, Material("M" + std::to_string(key)));
   table.SetAt(2, Material("TWIN"));
   table.SetAt(5, Material("TWIN"));
@@ -49,7 +50,7 @@ TEST(FindMaterialNumber, FoundNotFoundAndEmpty) {
   for (const Case& c : {Case{"M1", 1, 1}, Case{"M20", 1, 20}, Case{"TWIN", 1, 5}, Case{"LATE", 1, 3},
                         Case{"steel", 0, 16}, Case{"m1", 0, 16}, Case{"", 0, 16}}) {
     number = -7;
-    EXPECT_EQ(c.found, engine.FindMaterialNumber(c.name, number)) << c.name;
+    EXPECT_EQ(c.found, engine.Get<CProperties>().FindMaterialNumber(c.name, number)) << c.name;
     EXPECT_EQ(c.want, number) << c.name;
   }
 }
@@ -62,12 +63,12 @@ TEST(FindMaterialNumber, AgreesWithTheWalkOnLargeTables) {
     CS2kConverter engine(ui);
     engine.sourceModel->Reset();
     for (int key = 1; key <= rows; ++key)
-      engine.sourceModel->Material1.SetAt(key, Material("N" + std::to_string(random() % (rows / 3 + 1))));
+      SourceOf<CProperties>(engine).Material1.SetAt(key, Material("N" + std::to_string(random() % (rows / 3 + 1))));
     for (int probe = 0; probe < 60; ++probe) {
       const std::string name = "N" + std::to_string(probe);
       int number = 1;
-      engine.FindMaterialNumber(name, number);
-      EXPECT_EQ(WalkForMaterial(engine.sourceModel->Material1, name, 1), number) << rows << " " << name;
+      engine.Get<CProperties>().FindMaterialNumber(name, number);
+      EXPECT_EQ(WalkForMaterial(SourceOf<CProperties>(engine).Material1, name, 1), number) << rows << " " << name;
     }
   }
 }
@@ -83,13 +84,13 @@ TEST(ConvertMaterials, ThermalFollowsTheTemperatureUnit) {
     CS2kConverter engine(ui);
     engine.sourceModel->Reset();
     engine.targetModel->Reset();
-    engine.sourceModel->TemperatureUnit = c.unit;
+    SourceOf<CGeometry>(engine).TemperatureUnit = c.unit;
     S2kMaterial1Row row = Material("STEEL");
     row.DesignType = "Steel";
     row.A = c.a;
-    engine.sourceModel->Material1.SetAt(1, row);
-    ASSERT_EQ(1, engine.ConvertMaterials());
-    const TvtMaterialRec* rec = engine.targetModel->Materials.Lookup(1);
+    SourceOf<CProperties>(engine).Material1.SetAt(1, row);
+    ASSERT_EQ(1, engine.Get<CProperties>().ConvertMaterials());
+    const TvtMaterialRec* rec = TargetOf<CProperties>(engine).Materials.Lookup(1);
     ASSERT_NE(nullptr, rec) << c.unit;
     EXPECT_EQ(c.want, rec->THERMAL) << c.unit;
     EXPECT_EQ("STEEL", rec->TYPE);
@@ -101,24 +102,24 @@ TEST(ConvertMaterials, OrthotropicPathSwapsTheSecondAndThirdAxes) {
   CS2kConverter engine(ui);
   engine.sourceModel->Reset();
   engine.targetModel->Reset();
-  engine.sourceModel->TemperatureUnit = "F";
+  SourceOf<CGeometry>(engine).TemperatureUnit = "F";
   S2kMaterial1Row material = Material("ORTHO", "Orthotropic");
   material.DesignType = "Concrete";
   material.UnitWeight = 24;
-  engine.sourceModel->Material1.SetAt(1, material);
-  engine.sourceModel->Material1.SetAt(2, Material("LOST", "Anisotropic"));
+  SourceOf<CProperties>(engine).Material1.SetAt(1, material);
+  SourceOf<CProperties>(engine).Material1.SetAt(2, Material("LOST", "Anisotropic"));
   S2kMaterial2Row axes;
   axes.Material = "ORTHO";
   axes.E1 = 1, axes.E2 = 5, axes.E3 = 7;
   axes.G12 = 12, axes.G13 = 13, axes.G23 = 23;
   axes.U12 = 0.12, axes.U13 = 0.13, axes.U23 = 0.23;
   axes.A1 = 1, axes.A2 = 2, axes.A3 = 3;
-  engine.sourceModel->Material2.SetAt(1, axes);
+  SourceOf<CProperties>(engine).Material2.SetAt(1, axes);
 
-  ASSERT_EQ(1, engine.ConvertMaterials());
-  EXPECT_EQ(1, engine.propertyFlags.MaterialAnisotropic);
-  EXPECT_EQ(nullptr, engine.targetModel->Materials.Lookup(2)) << "no row in table 382";
-  const TvtMaterialRec* rec = engine.targetModel->Materials.Lookup(1);
+  ASSERT_EQ(1, engine.Get<CProperties>().ConvertMaterials());
+  EXPECT_EQ(1, SubjectAccess::Flags<CProperties>(engine).MaterialAnisotropic);
+  EXPECT_EQ(nullptr, TargetOf<CProperties>(engine).Materials.Lookup(2)) << "no row in table 382";
+  const TvtMaterialRec* rec = TargetOf<CProperties>(engine).Materials.Lookup(1);
   ASSERT_NE(nullptr, rec);
   EXPECT_EQ(2, rec->kind);
   EXPECT_EQ("CONC", rec->TYPE);

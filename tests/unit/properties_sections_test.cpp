@@ -3,6 +3,7 @@
 
 #include "frame/converter.h"
 #include "recording_ui.h"
+#include "subject_access.h"
 
 namespace {
 
@@ -15,7 +16,7 @@ TEST(MapSectionShape, ExactWordsOnly) {
                         Case{"Rectangular", "SB"}, Case{"Circle", "SR"}, Case{"General", "SB"},
                         Case{"rectangular", ""}, Case{"Nonprismatic", ""}, Case{"Pipe ", ""}, Case{"", ""}}) {
     int BLT = 0;
-    EXPECT_EQ(c.code, CS2kConverter::MapSectionShape(c.word, BLT)) << c.word;
+    EXPECT_EQ(c.code, CProperties::MapSectionShape(c.word, BLT)) << c.word;
     EXPECT_EQ(2, BLT) << c.word;
   }
 }
@@ -32,10 +33,10 @@ TEST(FindSectionOffsetCode, CardinalPointsBySubstringInOrder) {
     RecordingUserInterface ui;
     CS2kConverter engine(ui);
     engine.sourceModel->Reset();
-    engine.sourceModel->FrameSectionAssigns.SetAt(1, S2kFrameSectionAssignRow{"F1", "", "", "SEC", "", ""});
-    engine.sourceModel->FrameInsertions.SetAt(1, S2kFrameInsertionRow{"F1", c.cardinalPoint, "GLOBAL"});
+    SourceOf<CProperties>(engine).FrameSectionAssigns.SetAt(1, S2kFrameSectionAssignRow{"F1", "", "", "SEC", "", ""});
+    SourceOf<CProperties>(engine).FrameInsertions.SetAt(1, S2kFrameInsertionRow{"F1", c.cardinalPoint, "GLOBAL"});
     std::string offset = "CC";
-    EXPECT_EQ(1, engine.FindSectionOffsetCode("SEC", offset)) << c.cardinalPoint;
+    EXPECT_EQ(1, engine.Get<CProperties>().FindSectionOffsetCode("SEC", offset)) << c.cardinalPoint;
     EXPECT_EQ(c.code, offset) << c.cardinalPoint;
   }
 }
@@ -45,25 +46,25 @@ TEST(FindSectionOffsetCode, MissingTablesAndRows) {
   CS2kConverter engine(ui);
   engine.sourceModel->Reset();
   std::string offset = "CC";
-  EXPECT_EQ(1, engine.FindSectionOffsetCode("SEC", offset));
+  EXPECT_EQ(1, engine.Get<CProperties>().FindSectionOffsetCode("SEC", offset));
   EXPECT_EQ("CC", offset) << "no assignments";
 
   // 17 assignments: the walk runs 15..1, then 17, 16, and stops on 16 when nothing matches.
   for (int key = 1; key <= 17; ++key)
-    engine.sourceModel->FrameSectionAssigns.SetAt(key, S2kFrameSectionAssignRow{"F" + std::to_string(key), "", "", "S", "", ""});
-  EXPECT_EQ(1, engine.FindSectionOffsetCode("SEC", offset));
+    SourceOf<CProperties>(engine).FrameSectionAssigns.SetAt(key, S2kFrameSectionAssignRow{"F" + std::to_string(key), "", "", "S", "", ""});
+  EXPECT_EQ(1, engine.Get<CProperties>().FindSectionOffsetCode("SEC", offset));
   EXPECT_EQ("CC", offset) << "no insertion rows";
 
-  engine.sourceModel->FrameInsertions.SetAt(1, S2kFrameInsertionRow{"F16", "7", ""});
-  engine.sourceModel->FrameInsertions.SetAt(2, S2kFrameInsertionRow{"F15", "9", ""});
-  EXPECT_EQ(1, engine.FindSectionOffsetCode("UNUSED", offset));
+  SourceOf<CProperties>(engine).FrameInsertions.SetAt(1, S2kFrameInsertionRow{"F16", "7", ""});
+  SourceOf<CProperties>(engine).FrameInsertions.SetAt(2, S2kFrameInsertionRow{"F15", "9", ""});
+  EXPECT_EQ(1, engine.Get<CProperties>().FindSectionOffsetCode("UNUSED", offset));
   EXPECT_EQ("RT", offset) << "an unused section takes the frame the walk ended on";
-  EXPECT_EQ(1, engine.FindSectionOffsetCode("S", offset));
+  EXPECT_EQ(1, engine.Get<CProperties>().FindSectionOffsetCode("S", offset));
   EXPECT_EQ("LT", offset) << "the first assignment in walk order is key 15";
 
-  engine.sourceModel->FrameSectionAssigns.SetAt(18, S2kFrameSectionAssignRow{"F18", "", "", "ALONE", "", ""});
+  SourceOf<CProperties>(engine).FrameSectionAssigns.SetAt(18, S2kFrameSectionAssignRow{"F18", "", "", "ALONE", "", ""});
   offset = "CC";
-  EXPECT_EQ(0, engine.FindSectionOffsetCode("ALONE", offset));
+  EXPECT_EQ(0, engine.Get<CProperties>().FindSectionOffsetCode("ALONE", offset));
   EXPECT_EQ("", offset) << "a frame without insertion row clears the code";
 }
 
@@ -105,13 +106,13 @@ TEST(ConvertNonprismaticSection, VariationWords) {
     CS2kConverter engine(ui);
     engine.sourceModel->Reset();
     engine.targetModel->Reset();
-    engine.sourceModel->FrameSections.SetAt(1, Section("A", "Pipe", 0.3));
-    engine.sourceModel->FrameSections.SetAt(2, Section("B", "Pipe", 0.5));
+    SourceOf<CProperties>(engine).FrameSections.SetAt(1, Section("A", "Pipe", 0.3));
+    SourceOf<CProperties>(engine).FrameSections.SetAt(2, Section("B", "Pipe", 0.5));
     const S2kFrameSectionRow taper = Section("T", "Nonprismatic", 0);
-    engine.sourceModel->FrameSections.SetAt(3, taper);
-    engine.sourceModel->FrameNonprismatic.SetAt(1, Segment("T", 1, 1, "A", "B", c.ei33, c.ei22));
+    SourceOf<CProperties>(engine).FrameSections.SetAt(3, taper);
+    SourceOf<CProperties>(engine).FrameNonprismatic.SetAt(1, Segment("T", 1, 1, "A", "B", c.ei33, c.ei22));
     TvtSectionRec rec;
-    ASSERT_EQ(1, engine.ConvertNonprismaticSection(taper, rec)) << c.ei33;
+    ASSERT_EQ(1, engine.Get<CProperties>().ConvertNonprismaticSection(taper, rec)) << c.ei33;
     EXPECT_EQ("TAPERED", rec.TYPE);
     EXPECT_EQ("P", rec.SHAPE);
     EXPECT_EQ(c.iyVAR, rec.iyVAR) << c.ei33;
@@ -129,45 +130,45 @@ TEST(ConvertNonprismaticSection, EndsFlagsAndDuplicateNames) {
   CS2kConverter engine(ui);
   engine.sourceModel->Reset();
   engine.targetModel->Reset();
-  CKeyedTable<S2kFrameSectionRow>& sections = engine.sourceModel->FrameSections;
+  CKeyedTable<S2kFrameSectionRow>& sections = SourceOf<CProperties>(engine).FrameSections;
   sections.SetAt(1, Section("A", "Double Angle", 0.2));
   sections.SetAt(2, Section("A", "Double Angle", 0.4));  // walked before key 1
   sections.SetAt(3, Section("B", "Double Angle", 0.6));
   sections.SetAt(4, Section("R", "Rectangular", 0.8));
   sections.SetAt(5, Section("X", "Unknown", 1));
-  CKeyedTable<S2kFrameNonprismaticRow>& segments = engine.sourceModel->FrameNonprismatic;
+  CKeyedTable<S2kFrameNonprismaticRow>& segments = SourceOf<CProperties>(engine).FrameNonprismatic;
   segments.SetAt(1, Segment("T", 1, 1, "A", "B"));
   segments.SetAt(2, Segment("MIX", 1, 1, "A", "R"));
   segments.SetAt(3, Segment("NOEND", 1, 1, "X", "NONE"));
   segments.SetAt(4, Segment("HALF", 2, 1, "A", "B"));
 
-  EXPECT_EQ(2, engine.FindFrameSectionKey("A")) << "the lookup by name stops at the first in walk order";
-  EXPECT_EQ(0, engine.FindFrameSectionKey("Z"));
-  EXPECT_EQ(4, engine.FindNonprismaticKey("HALF"));
-  EXPECT_EQ(0, engine.FindNonprismaticKey("A"));
+  EXPECT_EQ(2, engine.Get<CProperties>().FindFrameSectionKey("A")) << "the lookup by name stops at the first in walk order";
+  EXPECT_EQ(0, engine.Get<CProperties>().FindFrameSectionKey("Z"));
+  EXPECT_EQ(4, engine.Get<CProperties>().FindNonprismaticKey("HALF"));
+  EXPECT_EQ(0, engine.Get<CProperties>().FindNonprismaticKey("A"));
 
   TvtSectionRec rec;
-  ASSERT_EQ(1, engine.ConvertNonprismaticSection(Section("T", "Nonprismatic", 0), rec));
+  ASSERT_EQ(1, engine.Get<CProperties>().ConvertNonprismaticSection(Section("T", "Nonprismatic", 0), rec));
   EXPECT_EQ("2L", rec.SHAPE);
   EXPECT_EQ(0.2, rec.D[0]) << "every section of the name is met; key 1 is walked last";
   EXPECT_EQ(0.1, rec.D[1]) << "the plain order, not the one of double angles";
   EXPECT_EQ(0.6, rec.D[6]);
-  EXPECT_EQ(1, engine.targetModel->TaperMultiSegment) << "any row of several segments";
+  EXPECT_EQ(1, TargetOf<CProperties>(engine).TaperMultiSegment) << "any row of several segments";
 
   rec = {};
-  EXPECT_EQ(0, engine.ConvertNonprismaticSection(Section("MIX", "Nonprismatic", 0), rec));
-  EXPECT_EQ(0, engine.targetModel->TaperStartMissing + engine.targetModel->TaperEndMissing);
+  EXPECT_EQ(0, engine.Get<CProperties>().ConvertNonprismaticSection(Section("MIX", "Nonprismatic", 0), rec));
+  EXPECT_EQ(0, TargetOf<CProperties>(engine).TaperStartMissing + TargetOf<CProperties>(engine).TaperEndMissing);
   rec = {};
-  EXPECT_EQ(0, engine.ConvertNonprismaticSection(Section("HALF", "Nonprismatic", 0), rec))
+  EXPECT_EQ(0, engine.Get<CProperties>().ConvertNonprismaticSection(Section("HALF", "Nonprismatic", 0), rec))
       << "no last segment: the end code stays empty and differs";
-  EXPECT_EQ(0, engine.targetModel->TaperStartMissing + engine.targetModel->TaperEndMissing);
+  EXPECT_EQ(0, TargetOf<CProperties>(engine).TaperStartMissing + TargetOf<CProperties>(engine).TaperEndMissing);
   rec = {};
-  EXPECT_EQ(0, engine.ConvertNonprismaticSection(Section("NOEND", "Nonprismatic", 0), rec));
-  EXPECT_EQ(1, engine.targetModel->TaperEndMissing);
-  EXPECT_EQ(0, engine.targetModel->TaperStartMissing);
+  EXPECT_EQ(0, engine.Get<CProperties>().ConvertNonprismaticSection(Section("NOEND", "Nonprismatic", 0), rec));
+  EXPECT_EQ(1, TargetOf<CProperties>(engine).TaperEndMissing);
+  EXPECT_EQ(0, TargetOf<CProperties>(engine).TaperStartMissing);
   rec = {};
-  EXPECT_EQ(0, engine.ConvertNonprismaticSection(Section("NONE", "Nonprismatic", 0), rec));
-  EXPECT_EQ(1, engine.targetModel->TaperStartMissing);
+  EXPECT_EQ(0, engine.Get<CProperties>().ConvertNonprismaticSection(Section("NONE", "Nonprismatic", 0), rec));
+  EXPECT_EQ(1, TargetOf<CProperties>(engine).TaperStartMissing);
   EXPECT_EQ("DBUSER", rec.TYPE);
 }
 

@@ -1,0 +1,118 @@
+// CElements: frames, areas and solids, their numbers in *ELEMENT, area
+// thickness, end offsets and releases.
+#pragma once
+
+#include <string>
+#include <unordered_map>
+
+#include "elements/element_tables.h"
+#include "frame/subject.h"
+#include "s2k/name_index.h"
+
+class CElements : public CSubject {
+ public:
+  explicit CElements(CS2kConverter& engine);
+
+  // ---- element_parsers.cpp -------------------------------------------------------
+  int ParseAreaSectionAssign();  // 125
+  int ParseAreaSection();        // 126
+  int ParseConnectivityArea();   // 201
+  int ParseConnectivityFrame();  // 202
+  int ParseConnectivitySolid();  // 204
+  int ParseFrameLocalAxes1();    // 239
+  int ParseFrameLocalAxes2();    // 240
+  int ParseFrameOffset();        // 243
+  int ParseFrameRelease();       // 250
+  int ParseFramePartialFix();    // 251
+  int ParseSolidPropAssign();    // 489
+  int ParseSolidProp();          // 490
+  int ParseSolidSummary();       // 505
+
+  // ---- frames.cpp -----------------------------------------------------------------
+  int ConvertFrames();
+  /// Decides the element numbers and writes frames, plates and solids; fills
+  /// the element map that every later writer looks names up in.
+  int WriteElements();
+  /// The first row of table 239 for \p name, its angle adjusted for advanced
+  /// axes. \returns 0 when there is none.
+  int FindFrameAngle(const std::string& name, S2kFrameLocalAxes1Row& row);
+  /// Folds the advanced axes of \p name (table 240) into \p angle.
+  void AdjustAngleForAdvancedAxes(const std::string& name, double& angle);
+  /// Whether element numbers are positions rather than names. Valid once
+  /// *ELEMENT is written.
+  int IsRenumbered() const;
+  /// The number of the element \p name of \p kind ("FRAME", "AREA", "SOLID")
+  /// from the element map, first match in walk order. An empty map gives 1
+  /// and leaves \p number. \returns 0, \p number left, when not found.
+  int FindElementNumber(const std::string& name, const std::string& kind, int& number);
+  /// The element number every writer prints: the map's under renumbering
+  /// (0 when not found), else atoi of the name.
+  int ElementNumberOf(const std::string& name, const std::string& kind);
+  /// Clears ElementNamesNumeric for a name with a character other than a digit.
+  void NoteElementName(const std::string& name);
+  int DecideRenumbering();
+  void WriteFrameLines(int frames);
+  void WritePlateLines(int frames, int areas);
+  void WriteSolidLines(int frames, int areas, int solids);
+  /// The first row in walk order of a frame or area name, or nullptr.
+  const S2kConnectivityFrameRow* FindFrameConnectivity(const std::string& frame) const;
+  const S2kConnectivityAreaRow* FindAreaConnectivity(const std::string& area) const;
+  /// Raised by a frame load on a frame of zero length; the frame writer says so.
+  void SetZeroLengthWarning() { flags_.ZeroLengthWarning = 1; }
+
+  // ---- areas.cpp --------------------------------------------------------------------
+  int ConvertAreas();
+  int ConvertSolids();
+  /// Kind 1: AnalSect of frame \p name (table 252); kind 2: Section of area
+  /// \p name (table 125). \returns 1 when found.
+  int FindAreaSectionName(const std::string& name, int kind, std::string& section);
+  /// Element type, property, material and iSUB of an area of \p section.
+  /// \returns 0 when no row of that name gives a known material.
+  int FindAreaSectionData(const std::string& section, const S2kConnectivityAreaRow& area, int& iPRO, int& iMAT,
+                          int& iSUB, std::string& TYPE);
+  /// The material of solid \p name through its property. \returns 0 when
+  /// no assigned property names a known material.
+  int FindSolidMaterial(const std::string& name, int& number);
+  /// All four corners share one GlobalY; unknown joints lie at the origin.
+  int IsFlatInY(const S2kConnectivityAreaRow& area);
+
+  // ---- thickness.cpp ----------------------------------------------------------------
+  int ConvertAreaSections();
+  int WriteThicknesses();
+
+  // ---- offsets.cpp ------------------------------------------------------------------
+  int ConvertFrameOffsets();
+  int ConvertFrameReleases();
+  int WriteOffsets();
+  int WriteFrameReleases();
+  /// The key of the first offset record of frame \p name in walk order.
+  /// \returns 0 when there is none.
+  int FindOffsetByElement(const std::string& name, int& key);
+
+ private:
+  friend struct SubjectAccess;
+
+  S2kElementTables source_;
+  TvtElementTables target_;
+  ElementRunFlags flags_;
+  int ElementsRenumbered = 0;
+  int ElementNamesNumeric = 1;
+  int solidNodeCount = 8;
+
+  CKeyedTable<TvtElementMapEntry> elementNumberMap;
+  /// Kind, a zero character and name, to the first number in walk order.
+  std::unordered_map<std::string, int> elementNumberIndex_;
+  int elementNumberIndexCount_ = -1;
+
+  CNameIndex<S2kFrameLocalAxes1Row> frameAngleNames_{&S2kFrameLocalAxes1Row::Frame};
+  CNameIndex<S2kFrameLocalAxes2Row> frameAdvancedAxesNames_{&S2kFrameLocalAxes2Row::Frame};
+  CNameIndex<S2kAreaSectionAssignRow> areaSectionAssignNames_{&S2kAreaSectionAssignRow::Area};
+  CNameIndex<S2kSolidPropRow> solidPropNames_{&S2kSolidPropRow::SolidProp};
+  CNameIndex<S2kAreaSectionRow> areaSectionRows_{&S2kAreaSectionRow::Section};
+  CNameIndex<S2kSolidPropAssignRow> solidPropAssignRows_{&S2kSolidPropAssignRow::Solid};
+  CNameIndex<S2kFramePartialFixRow> partialFixFrames_{&S2kFramePartialFixRow::Frame};
+  CNameIndex<S2kConnectivityFrameRow> frameConnectivityByName_{&S2kConnectivityFrameRow::Frame};
+  CNameIndex<S2kConnectivityAreaRow> areaConnectivityByName_{&S2kConnectivityAreaRow::Area};
+  /// Frame names of the offset records, kept while the offsets are converted.
+  std::unordered_map<std::string, int> offsetFrames_;
+};
