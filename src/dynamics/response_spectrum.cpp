@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "frame/converter.h"
+#include "geometry/geometry.h"
 #include "s2k/table_parsers.h"
 
 namespace {
@@ -149,7 +150,7 @@ int CResponseSpectrum::ConvertSpectrumTable(const CKeyedTable<Row>& table, int& 
   // Rows in file order; a run of rows of one name is one function.
   const int n = table.Count();
   if (n == 0) return 1;
-  const double grav = engine.GravityInModelUnits();
+  const double grav = engine.Get<CGeometry>().GravityInModelUnits();
   TvtSfunctionRec rec;
   auto insert = [&] {
     rec.GRAV = grav;

@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "frame/converter.h"
+#include "geometry/geometry.h"
 #include "s2k/table_parsers.h"
 
 namespace {
@@ -27,12 +28,12 @@ constexpr S2kField<S2kJointGroundRow> kJointGroundKeys[] = {
 
 // What this subject asks of the joints.
 void TurnToGlobal(CS2kConverter& engine, const std::string& joint, double& a, double& b, double& c) {
-  engine.LocalToGlobal(joint, a, b, c);
+  engine.Get<CGeometry>().LocalToGlobal(joint, a, b, c);
 }
 void TurnToLocal(CS2kConverter& engine, const std::string& joint, double& a, double& b, double& c) {
-  engine.GlobalToLocal(joint, a, b, c);
+  engine.Get<CGeometry>().GlobalToLocal(joint, a, b, c);
 }
-bool HasLocalAxes(CS2kConverter& engine, const std::string& joint) { return engine.HasJointLocalAxes(joint); }
+bool HasLocalAxes(CS2kConverter& engine, const std::string& joint) { return engine.Get<CGeometry>().HasJointLocalAxes(joint); }
 
 }  // namespace
 
