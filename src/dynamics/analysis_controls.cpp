@@ -3,7 +3,9 @@
 
 #include <cstdint>
 
+#include "elements/elements.h"
 #include "frame/converter.h"
+#include "geometry/geometry.h"
 #include "s2k/keys.h"
 #include "s2k/numbers.h"
 
@@ -23,8 +25,7 @@ void CAnalysisControls::ConvertModalCase(const std::string& Case) {
     rec.TYPE = row->ModeType;
     UpperCase(rec.TYPE);
 
-    const CS2kModel& source = *engine.sourceModel;
-    int limit = source.ConnectivityFrame.Count() + source.ConnectivityArea.Count() + source.ConnectivitySolid.Count();
+    int limit = engine.Get<CElements>().ElementCount();
     // The structure record is filled after the walk, so the factor is
     // still that of its defaults here.
     const int iSMAS = engine.targetModel->StructType.iSMAS;
@@ -122,7 +123,7 @@ void CAnalysisControls::ConvertLoadToMass() {
     rec.LCNAME.push_back(row.LoadCase);
     rec.FACTOR.push_back(row.Multiplier);
   });
-  rec.GRAV = engine.GravityInModelUnits();
+  rec.GRAV = engine.Get<CGeometry>().GravityInModelUnits();
   rec.Defined = 1;
   loadToMass_ = std::move(rec);
 }

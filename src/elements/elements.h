@@ -57,6 +57,10 @@ class CElements : public CSubject {
   /// The first row in walk order of a frame or area name, or nullptr.
   const S2kConnectivityFrameRow* FindFrameConnectivity(const std::string& frame) const;
   const S2kConnectivityAreaRow* FindAreaConnectivity(const std::string& area) const;
+  /// Frames, areas and solids of the model, all told.
+  int ElementCount() const {
+    return source_.ConnectivityFrame.Count() + source_.ConnectivityArea.Count() + source_.ConnectivitySolid.Count();
+  }
   /// Raised by a frame load on a frame of zero length; the frame writer says so.
   void SetZeroLengthWarning() { flags_.ZeroLengthWarning = 1; }
 
