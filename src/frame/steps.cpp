@@ -111,6 +111,7 @@ std::span<const std::vector<S2kTableParser>* const> TableParserLists() {
       &JointLoadTableParsers(),
       &AnalysisTableParsers(),
       &CombinationTableParsers(),
+      &AutoLoadTableParsers(),
       &SpectrumTableParsers(),
   };
   return lists;

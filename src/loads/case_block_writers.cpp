@@ -1,5 +1,6 @@
 // The load blocks of each static case, in the order they stand in the file.
 #include "frame/converter.h"
+#include "loads/auto_loads.h"
 #include "loads/joint_loads.h"
 #include "loads/load_cases.h"
 
@@ -22,8 +23,8 @@ const SCaseBlockWriter kCaseBlockWriters[] = {
     {RunCaseStep<&CJointLoads::WriteSpdisp>},
     // *PRESTRESS (prestress loads)
     // *PRESSURE (surface loads)
-    // *WIND, autoLoadType "W" (automatic loads)
-    // *SEIS, autoLoadType "E" (automatic loads)
+    {RunCaseStep<&CAutoLoads::WriteWind>, "W"},
+    {RunCaseStep<&CAutoLoads::WriteSeis>, "E"},
 };
 
 }  // namespace

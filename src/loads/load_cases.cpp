@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "frame/converter.h"
+#include "loads/auto_loads.h"
 #include "loads/case_block.h"
 #include "loads/load_combinations.h"
 #include "s2k/table_parsers.h"
@@ -84,7 +85,7 @@ int CLoadCases::GetLoadCaseType(const std::string& LoadName, std::string& LCTYPE
   } else if (type == "WIND") {
     LCTYPE = "W";
     if (row->AutoLoad != "None") {
-      // engine.Get<CAutoLoads>().ConvertAutoWind(LoadName, row->AutoLoad);
+      engine.Get<CAutoLoads>().ConvertAutoWind(LoadName, row->AutoLoad);
       bAutoLoad = 1;
     }
   } else if (type == "SNOW") {
@@ -92,7 +93,7 @@ int CLoadCases::GetLoadCaseType(const std::string& LoadName, std::string& LCTYPE
   } else if (type == "QUAKE") {
     LCTYPE = "E";
     if (row->AutoLoad != "None") {
-      // engine.Get<CAutoLoads>().ConvertAutoSeismic(LoadName, row->AutoLoad);
+      engine.Get<CAutoLoads>().ConvertAutoSeismic(LoadName, row->AutoLoad);
       bAutoLoad = 1;
     }
   } else {

@@ -16,4 +16,5 @@ const std::vector<S2kTableParser>& LoadCaseTableParsers();
 const std::vector<S2kTableParser>& JointLoadTableParsers();
 const std::vector<S2kTableParser>& AnalysisTableParsers();
 const std::vector<S2kTableParser>& CombinationTableParsers();
+const std::vector<S2kTableParser>& AutoLoadTableParsers();
 const std::vector<S2kTableParser>& SpectrumTableParsers();
