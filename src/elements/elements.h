@@ -38,6 +38,8 @@ class CElements : public CSubject {
   int FindFrameAngle(const std::string& name, S2kFrameLocalAxes1Row& row);
   /// Folds the advanced axes of \p name (table 240) into \p angle.
   void AdjustAngleForAdvancedAxes(const std::string& name, double& angle);
+  /// The same rule for one row of advanced axes (links have their own table).
+  void AdjustAngleForAxesRow(const S2kFrameLocalAxes2Row& row, double& angle);
   /// Whether element numbers are positions rather than names. Valid once
   /// *ELEMENT is written.
   int IsRenumbered() const;

@@ -61,8 +61,10 @@ int CElements::FindFrameAngle(const std::string& name, S2kFrameLocalAxes1Row& ro
 // The advanced axes shrink to one rotation about the member's axis.
 void CElements::AdjustAngleForAdvancedAxes(const std::string& name, double& angle) {
   const S2kFrameLocalAxes2Row* found = frameAdvancedAxesNames_.Find(source_.FrameLocalAxes2, name);
-  if (!found) return;
-  const S2kFrameLocalAxes2Row& row = *found;
+  if (found) AdjustAngleForAxesRow(*found, angle);
+}
+
+void CElements::AdjustAngleForAxesRow(const S2kFrameLocalAxes2Row& row, double& angle) {
   if (row.PlOption1 == "Coord Dir") {
     const std::string& d = (row.CoordDir1 == "X" || row.CoordDir1 == "-X") ? row.CoordDir2 : row.CoordDir1;
     if (row.LocalPlan == "12") {

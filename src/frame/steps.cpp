@@ -5,6 +5,7 @@
 #include "frame/steps.h"
 
 #include "dynamics/analysis_controls.h"
+#include "dynamics/links.h"
 #include "dynamics/response_spectrum.h"
 #include "elements/elements.h"
 #include "elements/properties.h"
@@ -40,6 +41,7 @@ constexpr SRunStep kConversionSteps[] = {
     {2, RunStep<&CSprings::ConvertLineSprings, 1>},
     {2, RunStep<&CMasses::ConvertFrameMasses>},
     // 3 links
+    {3, RunStep<&CLinks::ConvertLinks>},
     // 4 areas
     {4, RunStep<&CElements::ConvertAreas>},
     {4, RunStep<&CMasses::ConvertAreaMasses>},
@@ -84,7 +86,10 @@ constexpr SRunStep kWriterSteps[] = {
     {14, RunStep<&CMasses::WriteNodalMasses>},     // *NODALMASS
     {15, RunStep<&CElements::WriteOffsets>},         // *OFFSET
     {16, RunStep<&CElements::WriteFrameReleases>},   // *FRAME-RLS
-    // 17 *INIFORCE; 18 *ELASTICLINK; 19 *NL-PROP; 20 *NL-LINK
+    // 17 *INIFORCE
+    {18, RunStep<&CLinks::WriteElasticLinks>},  // *ELASTICLINK
+    {19, RunStep<&CLinks::WriteNlProps>},       // *NL-PROP
+    {20, RunStep<&CLinks::WriteNlLinks>},       // *NL-LINK
     {21, RunStep<&CGeometry::WriteRigidLinks>},      // *RIGIDLINK
     // 22 *LINELANE; 23 *VEHICLE; 24 *VCLASS; 25 *MVLDCASE
     {26, RunStep<&CResponseSpectrum::WriteSfunctions>},  // *SFUNCTION
@@ -110,6 +115,7 @@ std::span<const std::vector<S2kTableParser>* const> TableParserLists() {
       &LoadCaseTableParsers(),
       &JointLoadTableParsers(),
       &AnalysisTableParsers(),
+      &LinkTableParsers(),
       &CombinationTableParsers(),
       &AutoLoadTableParsers(),
       &SpectrumTableParsers(),

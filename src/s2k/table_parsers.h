@@ -18,3 +18,4 @@ const std::vector<S2kTableParser>& AnalysisTableParsers();
 const std::vector<S2kTableParser>& CombinationTableParsers();
 const std::vector<S2kTableParser>& AutoLoadTableParsers();
 const std::vector<S2kTableParser>& SpectrumTableParsers();
+const std::vector<S2kTableParser>& LinkTableParsers();
