@@ -4,8 +4,8 @@
 
 #include "frame/converter.h"
 #include "frame/messages.h"
-#include "frame/terminal_ui.h"
 #include "quillmesh/convert.h"
+#include "quillmesh/desktop.hpp"
 #include "quillmesh/quillmesh.hpp"
 
 namespace quillmesh {
@@ -45,9 +45,8 @@ void QmTextFree(QmText* text) {
 }
 
 int ConvertFile2(QmText* outputPath) {
-  quillmesh::TerminalUserInterface ui(quillmesh::TerminalOptions{});
   std::string path;
-  int code = quillmesh::Convert(ui, path);
+  int code = quillmesh::Convert(*quillmesh::ChooseUserInterface(), path);
   if (code != 0) return code;
   char* copy = static_cast<char*>(std::malloc(path.size() + 1));
   if (!copy) return -1;

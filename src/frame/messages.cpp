@@ -18,9 +18,11 @@ const char* Fallback(const char*) { return "Error : DLL is not loaded. check mes
 LoadStrFunction loadStr = Fallback;
 void* messageLibrary = nullptr;
 
+}  // namespace
+
 // The folder of the file that holds this code: the shared library, or the
 // program it was linked into.
-std::string OwnFolder() {
+std::string LibraryFolder() {
   Dl_info info{};
   std::string path;
   if (dladdr(reinterpret_cast<void*>(&BindMessageLibrary), &info) && info.dli_fname)
@@ -34,6 +36,8 @@ std::string OwnFolder() {
   return path.substr(0, path.rfind('/'));
 }
 
+namespace {
+
 // Bound on load, before anything else runs; released on unload.
 struct LibraryLifetime {
   LibraryLifetime() { BindMessageLibrary(); }
@@ -46,7 +50,7 @@ const char* LoadStrEntry(const char* key) { return loadStr(key); }
 
 int BindMessageLibrary() {
   if (messageLibrary) return 1;
-  std::string name = OwnFolder() + "/lib" + "Convert" + "msg" + ".so";
+  std::string name = LibraryFolder() + "/lib" + "Convert" + "msg" + ".so";
   messageLibrary = dlopen(name.c_str(), RTLD_NOW | RTLD_LOCAL);
   if (!messageLibrary) return 0;
   if (auto entry = reinterpret_cast<LoadStrFunction>(dlsym(messageLibrary, "LoadStr"))) {

@@ -2,6 +2,8 @@
 // line when stderr is a terminal, Ctrl-C and Esc to stop.
 #include "frame/terminal_ui.h"
 
+#include "frame/progress_texts.h"
+
 #include <fcntl.h>
 #include <termios.h>
 #include <unistd.h>
@@ -21,15 +23,6 @@ bool handlerInstalled = false;
 void OnInterrupt(int) {
   if (interrupted) _exit(130);  // a second Ctrl-C does not wait for the run
   interrupted = 1;
-}
-
-const char* StageText(int stage) {
-  switch (stage) {
-    case 1: return "Reading [s2k] file of SAP2000 V8";
-    case 2: return "Converting [s2k] file to TARVO text file";
-    case 3: return "Writing TARVO text file";
-    default: return "";
-  }
 }
 
 std::string OneLine(std::string text) {
@@ -143,8 +136,7 @@ bool TerminalUserInterface::Advance(int position) {
   else if (EscapePressed())
     reason = "stopped by Esc";
   else if (ReadingPastEnd(stage_, position, lineCount_))
-    reason = "the input ends inside a table, with no blank line or END after its last row, so reading "
-             "could never end; the conversion was stopped";
+    reason = kEndsInsideTable;
   if (reason) {
     CloseProgress();
     stopReason_ = reason;
@@ -157,8 +149,7 @@ bool TerminalUserInterface::Advance(int position) {
 }
 
 void TerminalUserInterface::InputEndsInFileLine() {
-  stopReason_ = "the input ends with a FILE line outside any table, so reading could never end; "
-                "the conversion was stopped";
+  stopReason_ = kEndsInFileLine;
   Note(stopReason_);
 }
 
