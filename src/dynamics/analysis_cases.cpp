@@ -1,5 +1,6 @@
 // The analysis cases: each case by its type word, then the mass source.
 #include "dynamics/analysis_controls.h"
+#include "dynamics/time_history.h"
 #include "frame/converter.h"
 #include "loads/load_cases.h"
 #include "s2k/table_parsers.h"
@@ -97,13 +98,13 @@ int CAnalysisControls::ConvertAnalysisCases() {
     } else if (type == "LinRespSpec") {
       ConvertSpectrumControl(row.Case);
     } else if (type == "LinModHist") {
-      // engine.Get<CTimeHistory>().ConvertHistoryCase(row.Case, 1, 1, row.InitialCond)
+      engine.Get<CTimeHistory>().ConvertHistoryCase(row.Case, 1, 1, row.InitialCond);
     } else if (type == "NonModHist") {
-      // engine.Get<CTimeHistory>().ConvertHistoryCase(row.Case, 2, 1, row.InitialCond)
+      engine.Get<CTimeHistory>().ConvertHistoryCase(row.Case, 2, 1, row.InitialCond);
     } else if (type == "LinDirHis") {
-      // engine.Get<CTimeHistory>().ConvertHistoryCase(row.Case, 1, 2, row.InitialCond)
+      engine.Get<CTimeHistory>().ConvertHistoryCase(row.Case, 1, 2, row.InitialCond);
     } else if (type == "NonDirHist") {
-      // engine.Get<CTimeHistory>().ConvertHistoryCase(row.Case, 2, 2, row.InitialCond)
+      engine.Get<CTimeHistory>().ConvertHistoryCase(row.Case, 2, 2, row.InitialCond);
     } else if (type == "LinMoving") {
       // engine.Get<CMovingLoads>().ConvertMovingCase(row.Case)
     } else if (type == "LinBuckling") {

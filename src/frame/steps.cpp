@@ -7,6 +7,7 @@
 #include "dynamics/analysis_controls.h"
 #include "dynamics/links.h"
 #include "dynamics/response_spectrum.h"
+#include "dynamics/time_history.h"
 #include "elements/elements.h"
 #include "elements/properties.h"
 #include "elements/springs.h"
@@ -99,7 +100,10 @@ constexpr SRunStep kWriterSteps[] = {
     {30, RunStep<&CAnalysisControls::WriteSpecCtrl>},    // *SPEC-CTRL
     {31, RunStep<&CAnalysisControls::WriteEigenCtrl>},   // *EIGEN-CTRL
     {32, RunStep<&CAnalysisControls::WriteBuckCtrl>},  // *BUCK-CTRL
-    // 33 *TFUNCTION; 34 *THLDCASE; 35 *GROUND-ACC; 36 *DYN-SLOAD
+    {33, RunStep<&CTimeHistory::WriteTfunctions>},  // *TFUNCTION
+    {34, RunStep<&CTimeHistory::WriteThldcases>},   // *THLDCASE
+    {35, RunStep<&CTimeHistory::WriteGroundAcc>},   // *GROUND-ACC
+    {36, RunStep<&CTimeHistory::WriteDynSloads>},   // *DYN-SLOAD
     {37, RunStep<&CLoadCombinations::WriteLoadcomb>},  // *LOADCOMB
 };
 
@@ -116,6 +120,7 @@ std::span<const std::vector<S2kTableParser>* const> TableParserLists() {
       &JointLoadTableParsers(),
       &AnalysisTableParsers(),
       &LinkTableParsers(),
+      &HistoryTableParsers(),
       &CombinationTableParsers(),
       &AutoLoadTableParsers(),
       &SpectrumTableParsers(),
