@@ -40,8 +40,10 @@ void CAnalysisControls::ConvertModalCase(const std::string& Case) {
       rec.TOL = row->EigenTol;
     } else if (rec.TYPE == "RITZ" && !modal3_.Empty()) {
       int zeroEntries = 0;
-      modal3_.Walk([&](int, const S2kCaseModal3Row& load) {
-        if (load.Case != Case) return;
+      const auto* loads = modal3Cases_.Hits(modal3_, Case);
+      const std::vector<int> none;
+      for (int key : loads ? loads->keys : none) {
+        const S2kCaseModal3Row& load = *modal3_.Lookup(key);
         rec.bINCNL = "NO";
         rec.iGNUM = 1;
         if (load.LoadType == "Load case") {
@@ -58,7 +60,7 @@ void CAnalysisControls::ConvertModalCase(const std::string& Case) {
         }
         rec.iNOG.push_back(TruncateToInt(load.MaxCycles));
         if (load.MaxCycles < engine.ZeroTolerance) ++zeroEntries;
-      });
+      }
       if (zeroEntries > 0) {
         // The modes left over are shared out among the loads without cycles.
         int sum = 0;
@@ -91,32 +93,35 @@ void CAnalysisControls::ConvertSpectrumControl(const std::string& /*Case*/) {
 void CAnalysisControls::ConvertBucklingCase(const std::string& Case) {
   // Only the first buckling case with loads counts.
   if (bucklingDefined_ || buckling1_.Empty() || buckling2_.Empty()) return;
+  const auto* loads = buckling2Cases_.Hits(buckling2_, Case);
+  if (!loads) return;
   TvtBuckCtrlRec rec;
-  bool refused = false;
-  buckling2_.Walk([&](int, const S2kCaseBuckling2Row& load) {
-    if (refused || load.Case != Case) return;
+  for (int key : loads->keys) {
+    const S2kCaseBuckling2Row& load = *buckling2_.Lookup(key);
     if (load.LoadType != "Load case") {
       // Ends the case; loads taken before it stand.
       bucklingLoadRefused_ = 1;
-      refused = true;
-      return;
+      break;
     }
     rec.LCNAME.push_back(load.LoadName);
     rec.FACT.push_back(load.LoadSF);
-    // The last row of this case counts; none leaves the record's values.
-    buckling1_.Walk([&](int, const S2kCaseBuckling1Row& modes) {
-      if (modes.Case != Case) return;
-      rec.iMODENUM = TruncateToInt(modes.NumBuckMode);
-      rec.TOL = modes.EigenTol;
-    });
-    rec.iITER = 30;
-    buckCtrl_ = rec;
-    bucklingDefined_ = 1;
-  });
+  }
+  if (rec.LCNAME.empty()) return;
+  // The last mode row of this case in the walk counts; none leaves the
+  // record's values.
+  if (const auto* modes = buckling1Cases_.Hits(buckling1_, Case)) {
+    const S2kCaseBuckling1Row& row = *buckling1_.Lookup(modes->Last());
+    rec.iMODENUM = TruncateToInt(row.NumBuckMode);
+    rec.TOL = row.EigenTol;
+  }
+  rec.iITER = 30;
+  buckCtrl_ = std::move(rec);
+  bucklingDefined_ = 1;
 }
 
 void CAnalysisControls::ConvertLoadToMass() {
-  if (massSource_.Empty()) return;
+  // A later call would make the same record again.
+  if (massSource_.Empty() || loadToMass_.Defined) return;
   TvtLoadtomassRec rec;
   massSource_.Walk([&](int, const S2kMassSourceRow& row) {
     if (row.MassFrom == "Elements") return;

@@ -7,6 +7,7 @@
 #include "dynamics/analysis_tables.h"
 #include "frame/subject.h"
 #include "s2k/keyed_table.h"
+#include "s2k/name_index.h"
 
 class CAnalysisControls : public CSubject {
  public:
@@ -55,6 +56,9 @@ class CAnalysisControls : public CSubject {
   CKeyedTable<S2kCaseModal3Row> modal3_;          // 180
   CKeyedTable<S2kCaseSpectrum1Row> spectrum1_;    // 190
   CKeyedTable<S2kMassSourceRow> massSource_;      // 371
+  CNameIndex<S2kCaseBuckling1Row> buckling1Cases_{&S2kCaseBuckling1Row::Case};
+  CNameIndex<S2kCaseBuckling2Row> buckling2Cases_{&S2kCaseBuckling2Row::Case};
+  CNameIndex<S2kCaseModal3Row> modal3Cases_{&S2kCaseModal3Row::Case};
 
   TvtEigenCtrlRec eigenCtrl_;
   TvtSpecCtrlRec specCtrl_;
