@@ -29,7 +29,11 @@ QM_EXPORT void QmTextFree(QmText* text);
 
 /* Asks for an s2k file, converts it and writes the .tvt file beside it.
  * Returns 0 when the conversion ran to its end, 1 when the user gave up,
- * -1 when it failed. */
+ * -1 when it failed.
+ * The windows are the desktop's when a display is there and the desktop front
+ * end (libquillmesh_gtk.so beside this library) can be used from this thread,
+ * else the terminal's; QUILLMESH_UI=terminal or QUILLMESH_UI=desktop in the
+ * environment forces one. The choice is made at each call. */
 QM_EXPORT int ConvertFile(void);
 
 /* As ConvertFile. On 0, *outputPath is replaced by the path of the .tvt

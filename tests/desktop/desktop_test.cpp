@@ -20,10 +20,13 @@
 #include <functional>
 #include <sstream>
 #include <string>
+#include <thread>
 #include <vector>
 
 #include "quillmesh/convert.h"
+#include "quillmesh/desktop.hpp"
 #include "quillmesh/quillmesh.hpp"
+#include "quillmesh/terminal.hpp"
 
 namespace fs = std::filesystem;
 
@@ -547,6 +550,40 @@ TEST(DesktopPlacement, TopLeftOnTheProgramWindowKeptOnTheScreen) {
     EXPECT_EQ(c.wantX < 0 ? kScreenWidth - 1 - placed.width : c.wantX, placed.x) << c.name;
     EXPECT_EQ(c.wantY < 0 ? kScreenHeight - 1 - placed.height : c.wantY, placed.y) << c.name;
   }
+}
+
+TEST(DesktopChoice, DesktopOnTheMainThreadTerminalElsewhereOrWhenForced) {
+  struct Case {
+    const char* name;
+    const char* mode;  // QUILLMESH_UI
+    bool otherThread;
+    bool wantDesktop;
+    const char* says;  // on stderr; empty for nothing
+  };
+  for (const Case& c : {
+           Case{"a display", "", false, true, ""},
+           Case{"forced desktop", "desktop", false, true, ""},
+           Case{"forced terminal", "terminal", false, false, ""},
+           Case{"another thread", "", true, false, "main thread only"},
+           Case{"forced desktop on another thread", "desktop", true, false, "main thread only"},
+           Case{"an unknown value", "web", false, true, "QUILLMESH_UI=web is neither terminal nor desktop"},
+       }) {
+    setenv("QUILLMESH_UI", c.mode, 1);
+    std::unique_ptr<quillmesh::UserInterface> ui;
+    testing::internal::CaptureStderr();
+    if (c.otherThread)
+      std::thread([&] { ui = quillmesh::ChooseUserInterface(); }).join();
+    else
+      ui = quillmesh::ChooseUserInterface();
+    std::string said = testing::internal::GetCapturedStderr();
+    ASSERT_TRUE(ui) << c.name;
+    EXPECT_EQ(c.wantDesktop, dynamic_cast<quillmesh::TerminalUserInterface*>(ui.get()) == nullptr) << c.name;
+    if (*c.says)
+      EXPECT_NE(std::string::npos, said.find(c.says)) << c.name << ": " << said;
+    else
+      EXPECT_EQ("", said) << c.name;
+  }
+  setenv("QUILLMESH_UI", "desktop", 1);
 }
 
 }  // namespace
