@@ -1,6 +1,7 @@
 // The analysis cases: each case by its type word, then the mass source.
 #include "dynamics/analysis_controls.h"
 #include "dynamics/time_history.h"
+#include "dynamics/moving_loads.h"
 #include "frame/converter.h"
 #include "loads/load_cases.h"
 #include "s2k/table_parsers.h"
@@ -106,7 +107,7 @@ int CAnalysisControls::ConvertAnalysisCases() {
     } else if (type == "NonDirHist") {
       engine.Get<CTimeHistory>().ConvertHistoryCase(row.Case, 2, 2, row.InitialCond);
     } else if (type == "LinMoving") {
-      // engine.Get<CMovingLoads>().ConvertMovingCase(row.Case)
+      engine.Get<CMovingLoads>().ConvertMovingCase(row.Case);
     } else if (type == "LinBuckling") {
       ConvertBucklingCase(row.Case);
     }

@@ -6,6 +6,7 @@
 
 #include "dynamics/analysis_controls.h"
 #include "dynamics/links.h"
+#include "dynamics/moving_loads.h"
 #include "dynamics/response_spectrum.h"
 #include "dynamics/time_history.h"
 #include "elements/elements.h"
@@ -59,6 +60,11 @@ constexpr SRunStep kConversionSteps[] = {
     {9, RunStep<&CElements::ConvertAreaSections>},
     // 10 lanes; 11 vehicles of table 162; 12 vehicles of tables 163 and 164;
     // 13 vehicle classes; 14 moving load cases
+    {10, RunStep<&CMovingLoads::ConvertLanes>},
+    {11, RunStep<&CMovingLoads::ConvertStandardVehicles>},
+    {12, RunStep<&CMovingLoads::ConvertGeneralVehicles>},
+    {13, RunStep<&CMovingLoads::ConvertVehicleClasses>},
+    {14, RunStep<&CMovingLoads::ConvertMovingCases>},
     {15, RunStep<&CResponseSpectrum::ConvertSpectrumFunctions>},
     {16, RunStep<&CResponseSpectrum::ConvertSpectrumLoads>},
     // 17 analysis cases, mass source, *STRUCTYPE
@@ -92,7 +98,10 @@ constexpr SRunStep kWriterSteps[] = {
     {19, RunStep<&CLinks::WriteNlProps>},       // *NL-PROP
     {20, RunStep<&CLinks::WriteNlLinks>},       // *NL-LINK
     {21, RunStep<&CGeometry::WriteRigidLinks>},      // *RIGIDLINK
-    // 22 *LINELANE; 23 *VEHICLE; 24 *VCLASS; 25 *MVLDCASE
+    {22, RunStep<&CMovingLoads::WriteLanes>},      // *LINELANE
+    {23, RunStep<&CMovingLoads::WriteVehicles>},   // *VEHICLE
+    {24, RunStep<&CMovingLoads::WriteVclasses>},   // *VCLASS
+    {25, RunStep<&CMovingLoads::WriteMvldcases>},  // *MVLDCASE, *MOVE-CTRL
     {26, RunStep<&CResponseSpectrum::WriteSfunctions>},  // *SFUNCTION
     {27, RunStep<&CResponseSpectrum::WriteSpldcases>},   // *SPLDCASE
     {28, RunStep<&CAnalysisControls::WriteLoadToMass>},  // *LOADTOMASS
@@ -121,6 +130,7 @@ std::span<const std::vector<S2kTableParser>* const> TableParserLists() {
       &AnalysisTableParsers(),
       &LinkTableParsers(),
       &HistoryTableParsers(),
+      &MovingLoadTableParsers(),
       &CombinationTableParsers(),
       &AutoLoadTableParsers(),
       &SpectrumTableParsers(),

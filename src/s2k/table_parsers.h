@@ -20,3 +20,4 @@ const std::vector<S2kTableParser>& CombinationTableParsers();
 const std::vector<S2kTableParser>& AutoLoadTableParsers();
 const std::vector<S2kTableParser>& SpectrumTableParsers();
 const std::vector<S2kTableParser>& LinkTableParsers();
+const std::vector<S2kTableParser>& MovingLoadTableParsers();
