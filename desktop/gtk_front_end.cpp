@@ -179,6 +179,7 @@ int ChooseInputFile(QmFrontEnd* ui, const char* filter, char** path) {
                                                   GTK_RESPONSE_CANCEL, "_Open", GTK_RESPONSE_ACCEPT, nullptr);
   g_object_set_data(G_OBJECT(dialog), "quillmesh-window", GINT_TO_POINTER(1));
   gtk_window_set_modal(GTK_WINDOW(dialog), TRUE);
+  if (GtkWindow* program = ProgramWindow(ui)) gtk_window_set_transient_for(GTK_WINDOW(dialog), program);
   gtk_dialog_set_default_response(GTK_DIALOG(dialog), GTK_RESPONSE_ACCEPT);
   GtkFileChooser* chooser = GTK_FILE_CHOOSER(dialog);
   AddFilters(chooser, filter);
@@ -410,10 +411,15 @@ QmFrontEnd* Open(char* why, size_t whySize) {
     return nullptr;
   }
   auto* ui = new QmFrontEnd;
-  if (const char* name = g_get_application_name()) ui->programName = name;
-  // Files chosen in the dialog go to the recently used list under a name.
-  if (!g_get_prgname()) g_set_prgname("quillmesh");
-  if (!g_get_application_name()) g_set_application_name("Quillmesh");
+  // Files chosen in the dialog go to the recently used list under a name;
+  // a program without one gets ours, which the boxes don't show.
+  static bool namedHere = false;
+  if (!g_get_application_name()) {
+    if (!g_get_prgname()) g_set_prgname("quillmesh");
+    g_set_application_name("Quillmesh");
+    namedHere = true;
+  }
+  if (!namedHere) ui->programName = g_get_application_name();
   ui->contextAcquired = g_main_context_acquire(nullptr);
   if (!ui->contextAcquired) {
     delete ui;

@@ -552,6 +552,30 @@ TEST(DesktopPlacement, TopLeftOnTheProgramWindowKeptOnTheScreen) {
   }
 }
 
+TEST(DesktopRun, AReadThatCouldNeverEndIsStoppedWithABox) {
+  struct Case {
+    const char* name;
+    const char* text;
+    const char* says;
+  };
+  for (const Case& c : {
+           Case{"inside a table", "TABLE:  \"ACTIVE DEGREES OF FREEDOM\"\n   UX=Yes\n   UY=Yes", "ends inside a table"},
+           Case{"a FILE line", "FILE a.$2k was saved\n", "ends with a FILE line outside any table"},
+       }) {
+    Folder folder;
+    WriteFile(folder / "model.s2k", c.text);
+    User who;
+    who.choose = folder / "model.s2k";
+    Result result = Play(who);
+    EXPECT_EQ(1, result.code) << c.name;
+    ASSERT_EQ(2u, who.boxes.size()) << c.name;
+    EXPECT_NE(std::string::npos, who.boxes[1].text.find(c.says)) << c.name << ": " << who.boxes[1].text;
+    EXPECT_FALSE(who.boxes[1].progressShown) << c.name << ": the window is closed first";
+    EXPECT_FALSE(result.windowsLeft) << c.name;
+    EXPECT_FALSE(fs::exists(folder / "model.tvt")) << c.name;
+  }
+}
+
 TEST(DesktopChoice, DesktopOnTheMainThreadTerminalElsewhereOrWhenForced) {
   struct Case {
     const char* name;
