@@ -4,7 +4,7 @@
 // child process through ConvertPath with a silent user interface, and
 // prints time, peak memory and rows per second.
 //
-//   quillmesh_bench [largest joint count, default 200000]
+//   quillmesh_bench [largest joint count, default 200000] [model name, default all]
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -213,6 +213,78 @@ Model WriteSupportsModel(const std::filesystem::path& path, int joints) {
   return model;
 }
 
+// A girder of \p frames frames G1..Gn on joints J0..Jn, two lanes along all of
+// it, ten vehicles (six standard, four general with three axles each) in two
+// classes, one moving case; a bearing joint under every fiftieth girder joint,
+// tied to it by a link, rubber isolators and linear links in turn.
+Model WriteBridgeModel(const std::filesystem::path& path, int frames) {
+  Model model;
+  std::ofstream out(path);
+  out << "TABLE:  \"PROGRAM CONTROL\"\n   CurrUnits=\"KN, m, C\"\n\n";
+  out << "TABLE:  \"JOINT COORDINATES\"\n";
+  for (int i = 0; i <= frames; ++i)
+    out << "   Joint=J" << i << "   CoordSys=GLOBAL   CoordType=Cartesian   GlobalX=" << i * 2
+        << "   GlobalY=0   GlobalZ=10\n";
+  for (int i = 0; i <= frames; i += 50)
+    out << "   Joint=B" << i << "   CoordSys=GLOBAL   CoordType=Cartesian   GlobalX=" << i * 2
+        << "   GlobalY=0   GlobalZ=9\n";
+  out << "\nTABLE:  \"JOINT RESTRAINT ASSIGNMENTS\"\n";
+  for (int i = 0; i <= frames; i += 50) out << "   Joint=B" << i << "   U1=Yes   U2=Yes   U3=Yes\n";
+  out << "\nTABLE:  \"CONNECTIVITY - FRAME\"\n";
+  for (int f = 1; f <= frames; ++f) out << "   Frame=G" << f << "   JointI=J" << f - 1 << "   JointJ=J" << f << "\n";
+  out << "\nTABLE:  \"CONNECTIVITY - LINK\"\n";
+  for (int i = 0; i <= frames; i += 50) out << "   Link=K" << i << "   JointI=B" << i << "   JointJ=J" << i << "\n";
+  out << "\nTABLE:  \"SUMMARY - LINK\"\n";
+  for (int i = 0; i <= frames; i += 50)
+    out << "   Link=K" << i << "   LinkType=" << (i % 100 ? "Linear" : "\"Rubber Isolator\"")
+        << "   LinkJoint=TwoJoint   LinkProp=" << (i % 100 ? "LIN" : "LRB") << "   LocalAxes=No\n";
+  out << "\nTABLE:  \"LINK PROPERTY DEFINITIONS 01 - GENERAL\"\n"
+         "   Link=LIN   LinkType=Linear   Mass=0   Weight=0\n"
+         "   Link=LRB   LinkType=\"Rubber Isolator\"   Mass=0   Weight=2\n";
+  out << "\nTABLE:  \"LINK PROPERTY DEFINITIONS 02 - LINEAR\"\n";
+  for (const char* dof : {"U1", "U2", "U3", "R1", "R2", "R3"})
+    out << "   Link=LIN   DOF=" << dof << "   TransKE=100000   RotKE=1000\n";
+  out << "\nTABLE:  \"LINK PROPERTY DEFINITIONS 07 - RUBBER ISOLATOR\"\n";
+  for (const char* dof : {"U1", "U2", "U3"})
+    out << "   Link=LRB   DOF=" << dof << "   NonLinear=Yes   TransKE=2000   TransCE=0.05   TransK=20000   "
+        << "TransYield=50   Ratio=0.1\n";
+  out << "\nTABLE:  \"BRIDGE LOADS 1 - LANE DEFINITIONS\"\n";
+  for (int lane = 1; lane <= 2; ++lane)
+    for (int f = 1; f <= frames; ++f)
+      out << "   LaneName=LANE" << lane << "   Frame=G" << f << "   Eccen=" << (lane == 1 ? "-1.8" : "1.8") << "\n";
+  out << "\nTABLE:  \"BRIDGE LOADS 2 - VEHICLES 1 - STANDARD\"\n";
+  const char* standard[] = {"HSn-44", "Hn-44", "HL-93K", "HL-93M", "AML", "HSn-44L"};
+  for (int v = 0; v < 6; ++v)
+    out << "   VehName=S" << v << "   Type=" << standard[v] << "   ScaleFactor=" << (v % 2 ? 15 : 20) << "\n";
+  out << "\nTABLE:  \"BRIDGE LOADS 3 - VEHICLES 2 - GENERAL\"\n";
+  for (int v = 0; v < 4; ++v)
+    out << "   VehName=T" << v << "   LeadUnif=0   TrailUnif=" << (v % 2) << "   FirstAxle=10   AxleMom=20   "
+        << "AxleOther=30   NumInter=2\n";
+  out << "\nTABLE:  \"BRIDGE LOADS 4 - VEHICLES 3 - GENERAL AXLES\"\n";
+  for (int v = 0; v < 4; ++v)
+    for (int a = 0; a < 3; ++a)
+      out << "   VehName=T" << v << "   InterUnif=0   InterAxle=" << 50 + 10 * a << "   InterMinD=" << 4 * a
+          << "   InterMaxD=" << 4 * a + 5 << "\n";
+  out << "\nTABLE:  \"BRIDGE LOADS 5 - VEHICLE CLASSES\"\n";
+  for (int v = 0; v < 6; ++v) out << "   VehClass=MOVE   VehName=S" << v << "   ScaleFactor=1\n";
+  for (int v = 0; v < 4; ++v) out << "   VehClass=TRUCKS   VehName=T" << v << "   ScaleFactor=1\n";
+  out << "\nTABLE:  \"BRIDGE LOADS 6 - BRIDGE RESPONSE\"\n"
+         "   Displs=ALL   Reactions=ALL   Frames=ALL   CalcMethod=Exact   Correspond=No\n";
+  out << "\nTABLE:  \"CASE - MOVING LOAD 1 - LANE ASSIGNMENTS\"\n"
+         "   Case=MOVE   AssignNum=1   VehClass=MOVE   ScaleFactor=1   MinLoaded=1   MaxLoaded=2\n"
+         "   Case=MOVE   AssignNum=2   VehClass=TRUCKS   ScaleFactor=1   MinLoaded=0   MaxLoaded=2\n";
+  out << "\nTABLE:  \"CASE - MOVING LOAD 2 - LANES LOADED\"\n";
+  for (int assign = 1; assign <= 2; ++assign)
+    for (int lane = 1; lane <= 2; ++lane)
+      out << "   Case=MOVE   AssignNum=" << assign << "   Lane=LANE" << lane << "\n";
+  out << "\nTABLE:  \"CASE - MOVING LOAD 3 - LANE SCALE FACTORS\"\n"
+         "   Case=MOVE   NumberLanes=1   ScaleFactor=1\n   Case=MOVE   NumberLanes=2   ScaleFactor=0.9\n";
+  out << "\nTABLE:  \"ANALYSIS CASE DEFINITIONS\"\n   Case=MOVE   Type=LinMoving   InitialCond=Zero\n";
+  out << "\nEND TABLE DATA\n";
+  out.close();
+  model.rows = CountRows(path);
+  return model;
+}
 
 struct Result {
   int code = -1;
@@ -262,7 +334,8 @@ int main(int argc, char** argv) {
   // elements: joints, frames, areas, sections, materials, restraints, offsets
   // and releases; full: the same with springs and masses; supports: joints
   // with restraints, local axes, masses and diaphragms.
-  enum class Kind { Elements, Full, Supports };
+  // bridge: a girder of half as many frames with lanes, vehicles and links.
+  enum class Kind { Elements, Full, Supports, Bridge };
   struct Scenario {
     const char* name;
     Kind kind;
@@ -270,15 +343,18 @@ int main(int argc, char** argv) {
   };
   const Scenario scenarios[] = {
       {"elements", Kind::Elements, false}, {"elements", Kind::Elements, true}, {"full", Kind::Full, false},
-      {"full", Kind::Full, true},          {"supports", Kind::Supports, true},
+      {"full", Kind::Full, true},          {"supports", Kind::Supports, true}, {"bridge", Kind::Bridge, true},
   };
   std::printf("%-9s %-9s %9s %10s %10s %8s %9s %12s %8s %5s\n", "model", "names", "joints", "rows", "mass rows",
               "file MB", "seconds", "rows/second", "peak MB", "code");
+  const std::string only = argc > 2 ? argv[2] : "";
   for (const Scenario& scenario : scenarios) {
+    if (!only.empty() && only != scenario.name) continue;
     for (int n : sizes) {
       fs::path path = folder / "model.s2k";
       Model model = scenario.kind == Kind::Supports ? WriteSupportsModel(path, n)
-                                                    : WriteModel(path, n, scenario.named, scenario.kind == Kind::Full);
+                    : scenario.kind == Kind::Bridge   ? WriteBridgeModel(path, n / 2)
+                                                      : WriteModel(path, n, scenario.named, scenario.kind == Kind::Full);
       double megabytes = static_cast<double>(fs::file_size(path)) / (1024.0 * 1024.0);
       Result result = ConvertInChild(path);
       std::printf("%-9s %-9s %9d %10ld %10ld %8.1f %9.3f %12.0f %8ld %5d\n", scenario.name,
