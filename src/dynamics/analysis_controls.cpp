@@ -6,6 +6,7 @@
 #include "elements/elements.h"
 #include "frame/converter.h"
 #include "geometry/geometry.h"
+#include "tvt/structure_type.h"
 #include "s2k/keys.h"
 #include "s2k/numbers.h"
 
@@ -28,7 +29,7 @@ void CAnalysisControls::ConvertModalCase(const std::string& Case) {
     int limit = engine.Get<CElements>().ElementCount();
     // The structure record is filled after the walk, so the factor is
     // still that of its defaults here.
-    const int iSMAS = engine.targetModel->StructType.iSMAS;
+    const int iSMAS = engine.Get<CStructureType>().MassKind();
     if (iSMAS == 1)
       limit *= 3;
     else if (iSMAS == 2)

@@ -7,8 +7,7 @@
 #include "frame/steps.h"
 
 CS2kConverter::CS2kConverter(quillmesh::UserInterface& ui)
-    : ui_(ui), sourceModel(std::make_unique<CS2kModel>()),
-      targetModel(std::make_unique<CTvtModel>(*sourceModel)) {
+    : ui_(ui) {
   firstWords = {"ACTIVE",  "ANALYSIS", "AREA",        "AUTO",       "BRIDGE",      "CASE",    "COMBINATION",
                 "CONNECTIVITY", "CONSTRAINT", "COORDINATE", "DATABASE", "FRAME",   "FUNCTION", "GENERAL",
                 "GENERALIZED",  "GRID",       "GROUPS",     "HINGE",    "JOINT",   "LINK",     "LOAD",
@@ -40,7 +39,6 @@ int CS2kConverter::Run(const std::string& inputPath) {
   }
   ShowMessage("IDS_S2KV8_Export_must_be_executed");
   ResetConversion();
-  sourceModel->Reset();
   int code = ReadTables();
   if (code == 0) code = ConvertModel();
   if (code == 0) code = WriteOutput(inputPath);
@@ -62,6 +60,5 @@ int CS2kConverter::RunSteps(std::span<const SRunStep> steps, int count) {
 int CS2kConverter::ConvertModel() {
   ui_.SetStage(2);
   ui_.SetRange(kConversionStepCount + 1);
-  targetModel->Reset();
   return RunSteps(ConversionSteps(), kConversionStepCount);
 }

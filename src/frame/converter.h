@@ -1,5 +1,6 @@
-// CS2kConverter: the engine of one run. Declared once here; each subject
-// folder defines its own members.
+// CS2kConverter: the run of one conversion. It reads the tables, runs the
+// step tables and writes the file; every subject of the model is an object
+// of its own, made on first use by Get and dropped when the next run starts.
 #pragma once
 
 #include <cstdio>
@@ -16,8 +17,6 @@
 #include "s2k/input_file.h"
 #include "s2k/fields.h"
 #include "s2k/keyed_table.h"
-#include "s2k/model.h"
-#include "tvt/model.h"
 
 class CS2kConverter {
  public:
@@ -65,43 +64,11 @@ class CS2kConverter {
     return ::ParseRows(rowRows, fields, table);
   }
 
-  // ---- s2k/stored_tables.cpp: tables no conversion reads ---------------------
-  int ParseAreaRotateLoad();
-  int ParseAreaUniformToFrameLoad();
-  int ParseAreaWindCoefficient();
-  int ParseAreaMaterialTemperature();
-  int ParseCaseModalLoad();
-  int ParseCaseModalHistoryDamping();
-  int ParseCaseSpectrumModalDamping();
-  int ParseCaseSpectrumProportionalDamping();
-  int ParseCaseSpectrumModeDamping();
-  int ParseConstraintLocal();
-  int ParsePlotFunction();
-  int ParseFunctionCosine();
-  int ParseFunctionRamp();
-  int ParseFunctionSawtooth();
-  int ParseFunctionSine();
-  int ParseFunctionTriangular();
-  int ParseFunctionUserPeriodic();
-  int ParseGroupDefinition();
-  int ParseGroupAssignment();
-  int ParseGroupMass();
-  int ParseJointMassSource();
-  int ParseSolidAutoMesh();
-  int ParseSolidMaterialTemperature();
-  int ParseAreaSummary();
-
   // ---- tvt/writer.cpp: the TVT file ------------------------------------------
   int WriteOutput(const std::string& inputPath);
   int WriteCommands();
   /// Formats and writes to the TVT file. \returns 1; a file error is raised.
   int WriteText(const char* format, ...) __attribute__((format(printf, 2, 3)));
-
-  // ---- tvt/structure_type.cpp -------------------------------------------------
-  int ParseActiveDof();
-  /// Fills the record of *STRUCTYPE from the active degrees of freedom.
-  int ConvertStructType();
-  int WriteStructType();
 
  private:
   quillmesh::UserInterface& ui_;
@@ -113,28 +80,18 @@ class CS2kConverter {
   std::vector<std::string> firstWords;
   std::vector<std::string> rowRows;
   std::vector<int> rowLines;
-  std::unique_ptr<CS2kModel> sourceModel;
-  std::unique_ptr<CTvtModel> targetModel;
   int parsedRowCount = 0;
   double ZeroTolerance = 1e-15;
 };
 
-template <class Class>
-Class& SubjectOf(CS2kConverter& engine) {
-  if constexpr (std::is_same_v<Class, CS2kConverter>)
-    return engine;
-  else
-    return engine.Get<Class>();
-}
-
 template <auto Member, auto... Values>
 int RunStep(CS2kConverter& engine) {
   using Class = typename subject_detail::MemberOf<decltype(Member)>::Class;
-  return (SubjectOf<Class>(engine).*Member)(Values...);
+  return (engine.Get<Class>().*Member)(Values...);
 }
 
 template <auto Member>
 int RunCaseStep(CS2kConverter& engine, const std::string& loadCase) {
   using Class = typename subject_detail::MemberOf<decltype(Member)>::Class;
-  return (SubjectOf<Class>(engine).*Member)(loadCase);
+  return (engine.Get<Class>().*Member)(loadCase);
 }

@@ -19,10 +19,9 @@
 #include "loads/load_cases.h"
 #include "loads/load_combinations.h"
 #include "s2k/table_parsers.h"
+#include "tvt/structure_type.h"
 
 namespace {
-
-using E = CS2kConverter;
 
 constexpr SRunStep kConversionSteps[] = {
     // 1 joints; the joint number map comes last, once all joints are known
@@ -69,7 +68,7 @@ constexpr SRunStep kConversionSteps[] = {
     {16, RunStep<&CResponseSpectrum::ConvertSpectrumLoads>},
     // 17 analysis cases, mass source, *STRUCTYPE
     {17, RunStep<&CAnalysisControls::ConvertAnalysisCases>},
-    {17, RunStep<&E::ConvertStructType>},
+    {17, RunStep<&CStructureType::ConvertStructType>},
     // 18 *ANAL-CTRL
     {18, RunStep<&CAnalysisControls::ConvertAnalysisControl>},
     // 19 load combinations
@@ -78,7 +77,7 @@ constexpr SRunStep kConversionSteps[] = {
 
 constexpr SRunStep kWriterSteps[] = {
     {1, RunStep<&CGeometry::WriteVersionAndUnits>},  // *VERSION, *UNIT
-    {2, RunStep<&E::WriteStructType>},       // *STRUCTYPE
+    {2, RunStep<&CStructureType::WriteStructType>},       // *STRUCTYPE
     {3, RunStep<&CGeometry::WriteNodes>},            // *NODE
     {4, RunStep<&CGeometry::WriteLocalAxes>},        // *LOCALAXIS
     {5, RunStep<&CElements::WriteElements>},         // *ELEMENT

@@ -1,6 +1,15 @@
 // The readers of the stored tables.
+#include "s2k/stored_tables.h"
+
 #include "frame/converter.h"
 #include "s2k/table_parsers.h"
+
+CStoredTables::CStoredTables(CS2kConverter& engine) : CSubject(engine) { tables_.Reset(); }
+
+template <auto Table, const auto& Keys>
+int CStoredTables::Parse() {
+  return engine.ParseRows(Keys, tables_.*Table);
+}
 
 namespace {
 
@@ -235,57 +244,32 @@ constexpr S2kField<S2kAreaSummaryRow> kAreaSummaryKeys[] = {
 
 }  // namespace
 
-int CS2kConverter::ParseAreaRotateLoad() { return ParseRows(kAreaRotateLoadKeys, sourceModel->AreaRotateLoad); }
-int CS2kConverter::ParseAreaUniformToFrameLoad() { return ParseRows(kAreaUniformToFrameLoadKeys, sourceModel->AreaUniformToFrameLoad); }
-int CS2kConverter::ParseAreaWindCoefficient() { return ParseRows(kAreaWindCoefficientKeys, sourceModel->AreaWindCoefficient); }
-int CS2kConverter::ParseAreaMaterialTemperature() { return ParseRows(kAreaMaterialTemperatureKeys, sourceModel->AreaMaterialTemperature); }
-int CS2kConverter::ParseCaseModalLoad() { return ParseRows(kCaseModalLoadKeys, sourceModel->CaseModalLoad); }
-int CS2kConverter::ParseCaseModalHistoryDamping() { return ParseRows(kCaseModalHistoryDampingKeys, sourceModel->CaseModalHistoryDamping); }
-int CS2kConverter::ParseCaseSpectrumModalDamping() { return ParseRows(kCaseSpectrumModalDampingKeys, sourceModel->CaseSpectrumModalDamping); }
-int CS2kConverter::ParseCaseSpectrumProportionalDamping() { return ParseRows(kCaseSpectrumProportionalDampingKeys, sourceModel->CaseSpectrumProportionalDamping); }
-int CS2kConverter::ParseCaseSpectrumModeDamping() { return ParseRows(kCaseSpectrumModeDampingKeys, sourceModel->CaseSpectrumModeDamping); }
-int CS2kConverter::ParseConstraintLocal() { return ParseRows(kConstraintLocalKeys, sourceModel->ConstraintLocal); }
-int CS2kConverter::ParsePlotFunction() { return ParseRows(kPlotFunctionKeys, sourceModel->PlotFunction); }
-int CS2kConverter::ParseFunctionCosine() { return ParseRows(kFunctionCosineKeys, sourceModel->FunctionCosine); }
-int CS2kConverter::ParseFunctionRamp() { return ParseRows(kFunctionRampKeys, sourceModel->FunctionRamp); }
-int CS2kConverter::ParseFunctionSawtooth() { return ParseRows(kFunctionSawtoothKeys, sourceModel->FunctionSawtooth); }
-int CS2kConverter::ParseFunctionSine() { return ParseRows(kFunctionSineKeys, sourceModel->FunctionSine); }
-int CS2kConverter::ParseFunctionTriangular() { return ParseRows(kFunctionTriangularKeys, sourceModel->FunctionTriangular); }
-int CS2kConverter::ParseFunctionUserPeriodic() { return ParseRows(kFunctionUserPeriodicKeys, sourceModel->FunctionUserPeriodic); }
-int CS2kConverter::ParseGroupDefinition() { return ParseRows(kGroupDefinitionKeys, sourceModel->GroupDefinition); }
-int CS2kConverter::ParseGroupAssignment() { return ParseRows(kGroupAssignmentKeys, sourceModel->GroupAssignment); }
-int CS2kConverter::ParseGroupMass() { return ParseRows(kGroupMassKeys, sourceModel->GroupMass); }
-int CS2kConverter::ParseJointMassSource() { return ParseRows(kJointMassSourceKeys, sourceModel->JointMassSource); }
-int CS2kConverter::ParseSolidAutoMesh() { return ParseRows(kSolidAutoMeshKeys, sourceModel->SolidAutoMesh); }
-int CS2kConverter::ParseSolidMaterialTemperature() { return ParseRows(kSolidMaterialTemperatureKeys, sourceModel->SolidMaterialTemperature); }
-int CS2kConverter::ParseAreaSummary() { return ParseRows(kAreaSummaryKeys, sourceModel->AreaSummary); }
-
 const std::vector<S2kTableParser>& StoredTableParsers() {
   static const std::vector<S2kTableParser> parsers = {
-      {115, RunStep<&CS2kConverter::ParseAreaRotateLoad>},
-      {118, RunStep<&CS2kConverter::ParseAreaUniformToFrameLoad>},
-      {120, RunStep<&CS2kConverter::ParseAreaWindCoefficient>},
-      {123, RunStep<&CS2kConverter::ParseAreaMaterialTemperature>},
-      {179, RunStep<&CS2kConverter::ParseCaseModalLoad>},
-      {183, RunStep<&CS2kConverter::ParseCaseModalHistoryDamping>},
-      {192, RunStep<&CS2kConverter::ParseCaseSpectrumModalDamping>},
-      {193, RunStep<&CS2kConverter::ParseCaseSpectrumProportionalDamping>},
-      {194, RunStep<&CS2kConverter::ParseCaseSpectrumModeDamping>},
-      {216, RunStep<&CS2kConverter::ParseConstraintLocal>},
-      {271, RunStep<&CS2kConverter::ParsePlotFunction>},
-      {282, RunStep<&CS2kConverter::ParseFunctionCosine>},
-      {284, RunStep<&CS2kConverter::ParseFunctionRamp>},
-      {285, RunStep<&CS2kConverter::ParseFunctionSawtooth>},
-      {286, RunStep<&CS2kConverter::ParseFunctionSine>},
-      {287, RunStep<&CS2kConverter::ParseFunctionTriangular>},
-      {288, RunStep<&CS2kConverter::ParseFunctionUserPeriodic>},
-      {311, RunStep<&CS2kConverter::ParseGroupDefinition>},
-      {312, RunStep<&CS2kConverter::ParseGroupAssignment>},
-      {313, RunStep<&CS2kConverter::ParseGroupMass>},
-      {372, RunStep<&CS2kConverter::ParseJointMassSource>},
-      {481, RunStep<&CS2kConverter::ParseSolidAutoMesh>},
-      {488, RunStep<&CS2kConverter::ParseSolidMaterialTemperature>},
-      {501, RunStep<&CS2kConverter::ParseAreaSummary>},
+      {115, RunStep<&CStoredTables::Parse<&S2kStoredTables::AreaRotateLoad, kAreaRotateLoadKeys>>},
+      {118, RunStep<&CStoredTables::Parse<&S2kStoredTables::AreaUniformToFrameLoad, kAreaUniformToFrameLoadKeys>>},
+      {120, RunStep<&CStoredTables::Parse<&S2kStoredTables::AreaWindCoefficient, kAreaWindCoefficientKeys>>},
+      {123, RunStep<&CStoredTables::Parse<&S2kStoredTables::AreaMaterialTemperature, kAreaMaterialTemperatureKeys>>},
+      {179, RunStep<&CStoredTables::Parse<&S2kStoredTables::CaseModalLoad, kCaseModalLoadKeys>>},
+      {183, RunStep<&CStoredTables::Parse<&S2kStoredTables::CaseModalHistoryDamping, kCaseModalHistoryDampingKeys>>},
+      {192, RunStep<&CStoredTables::Parse<&S2kStoredTables::CaseSpectrumModalDamping, kCaseSpectrumModalDampingKeys>>},
+      {193, RunStep<&CStoredTables::Parse<&S2kStoredTables::CaseSpectrumProportionalDamping, kCaseSpectrumProportionalDampingKeys>>},
+      {194, RunStep<&CStoredTables::Parse<&S2kStoredTables::CaseSpectrumModeDamping, kCaseSpectrumModeDampingKeys>>},
+      {216, RunStep<&CStoredTables::Parse<&S2kStoredTables::ConstraintLocal, kConstraintLocalKeys>>},
+      {271, RunStep<&CStoredTables::Parse<&S2kStoredTables::PlotFunction, kPlotFunctionKeys>>},
+      {282, RunStep<&CStoredTables::Parse<&S2kStoredTables::FunctionCosine, kFunctionCosineKeys>>},
+      {284, RunStep<&CStoredTables::Parse<&S2kStoredTables::FunctionRamp, kFunctionRampKeys>>},
+      {285, RunStep<&CStoredTables::Parse<&S2kStoredTables::FunctionSawtooth, kFunctionSawtoothKeys>>},
+      {286, RunStep<&CStoredTables::Parse<&S2kStoredTables::FunctionSine, kFunctionSineKeys>>},
+      {287, RunStep<&CStoredTables::Parse<&S2kStoredTables::FunctionTriangular, kFunctionTriangularKeys>>},
+      {288, RunStep<&CStoredTables::Parse<&S2kStoredTables::FunctionUserPeriodic, kFunctionUserPeriodicKeys>>},
+      {311, RunStep<&CStoredTables::Parse<&S2kStoredTables::GroupDefinition, kGroupDefinitionKeys>>},
+      {312, RunStep<&CStoredTables::Parse<&S2kStoredTables::GroupAssignment, kGroupAssignmentKeys>>},
+      {313, RunStep<&CStoredTables::Parse<&S2kStoredTables::GroupMass, kGroupMassKeys>>},
+      {372, RunStep<&CStoredTables::Parse<&S2kStoredTables::JointMassSource, kJointMassSourceKeys>>},
+      {481, RunStep<&CStoredTables::Parse<&S2kStoredTables::SolidAutoMesh, kSolidAutoMeshKeys>>},
+      {488, RunStep<&CStoredTables::Parse<&S2kStoredTables::SolidMaterialTemperature, kSolidMaterialTemperatureKeys>>},
+      {501, RunStep<&CStoredTables::Parse<&S2kStoredTables::AreaSummary, kAreaSummaryKeys>>},
   };
   return parsers;
 }

@@ -4,6 +4,7 @@
 
 #include <string>
 
+#include "frame/subject.h"
 #include "s2k/keyed_table.h"
 
 struct S2kAreaRotateLoadRow {
@@ -287,4 +288,17 @@ struct S2kStoredTables {
   CKeyedTable<S2kSolidAutoMeshRow> SolidAutoMesh;  // 481
   CKeyedTable<S2kSolidMaterialTemperatureRow> SolidMaterialTemperature;  // 488
   CKeyedTable<S2kAreaSummaryRow> AreaSummary;  // 501
+};
+
+/// Reads the stored tables, each by its keys, and keeps them to itself.
+class CStoredTables : public CSubject {
+ public:
+  explicit CStoredTables(CS2kConverter& engine);
+
+  /// Reads the rows of the stored table \p Table by the keys \p Keys.
+  template <auto Table, const auto& Keys>
+  int Parse();
+
+ private:
+  S2kStoredTables tables_;
 };

@@ -1,4 +1,6 @@
 // *STRUCTYPE: the active degrees of freedom (table 101) and the record.
+#include "tvt/structure_type.h"
+
 #include "dynamics/analysis_controls.h"
 #include "frame/converter.h"
 #include "geometry/geometry.h"
@@ -15,21 +17,21 @@ constexpr S2kField<S2kActiveDofRec> kActiveDofKeys[] = {
 }  // namespace
 
 const std::vector<S2kTableParser>& FrameTableParsers() {
-  static const std::vector<S2kTableParser> parsers = {{101, RunStep<&CS2kConverter::ParseActiveDof>}};
+  static const std::vector<S2kTableParser> parsers = {{101, RunStep<&CStructureType::ParseActiveDof>}};
   return parsers;
 }
 
 // The first row only; a key it lacks keeps the default of the table.
-int CS2kConverter::ParseActiveDof() {
+int CStructureType::ParseActiveDof() {
   S2kActiveDofRec dof{1, 0, 1, 0, 1, 0};
-  if (!rowRows.empty()) ReadFields(rowRows[0], kActiveDofKeys, dof);
-  sourceModel->ActiveDof = dof;
+  if (!engine.TableRows().empty()) ReadFields(engine.TableRows()[0], kActiveDofKeys, dof);
+  activeDof_ = dof;
   return 1;
 }
 
-int CS2kConverter::ConvertStructType() {
-  const S2kActiveDofRec& dof = sourceModel->ActiveDof;
-  TvtStructTypeRec& rec = targetModel->StructType;
+int CStructureType::ConvertStructType() {
+  const S2kActiveDofRec& dof = activeDof_;
+  TvtStructTypeRec& rec = structType_;
   if (dof.UX && dof.UY && dof.UZ)
     rec.iSTYP = 0;
   else if (!dof.UX && dof.UY && dof.UZ)
@@ -42,8 +44,8 @@ int CS2kConverter::ConvertStructType() {
     rec.iSTYP = 0;
   // Masses from elements: by the structure type.
   static constexpr int kMassKinds[] = {1, 3, 3, 2};
-  rec.iSMAS = Get<CAnalysisControls>().MassFromElements() ? kMassKinds[rec.iSTYP] : 0;
-  rec.GRAV = Get<CGeometry>().GravityInModelUnits();
+  rec.iSMAS = engine.Get<CAnalysisControls>().MassFromElements() ? kMassKinds[rec.iSTYP] : 0;
+  rec.GRAV = engine.Get<CGeometry>().GravityInModelUnits();
   rec.TEMPER = 0;
   rec.bALIGNBEAM = "NO";
   rec.bALIGNSLAB = "NO";
@@ -51,12 +53,12 @@ int CS2kConverter::ConvertStructType() {
   return 1;
 }
 
-int CS2kConverter::WriteStructType() {
-  const TvtStructTypeRec& rec = targetModel->StructType;
+int CStructureType::WriteStructType() {
+  const TvtStructTypeRec& rec = structType_;
   if (!rec.present) return 1;
-  WriteText("%s\n", "*STRUCTYPE    ; Structure Type");
-  WriteText("; iSTYP, iSMAS, GRAV, TEMPER, bALIGNBEAM, bALIGNSLAB\n");
-  WriteText("\t%d, %5d, %5g, %5g, %5s, %5s\n\n", rec.iSTYP, rec.iSMAS, rec.GRAV, rec.TEMPER, rec.bALIGNBEAM.c_str(),
+  engine.WriteText("%s\n", "*STRUCTYPE    ; Structure Type");
+  engine.WriteText("; iSTYP, iSMAS, GRAV, TEMPER, bALIGNBEAM, bALIGNSLAB\n");
+  engine.WriteText("\t%d, %5d, %5g, %5g, %5s, %5s\n\n", rec.iSTYP, rec.iSMAS, rec.GRAV, rec.TEMPER, rec.bALIGNBEAM.c_str(),
             rec.bALIGNSLAB.c_str());
   return 1;
 }

@@ -12,8 +12,7 @@ struct Engine {
   CS2kConverter engine{ui};
   Engine() {
     engine.ResetConversion();
-    engine.sourceModel->Reset();
-    engine.targetModel->Reset();
+    engine.ResetConversion();
   }
 };
 

@@ -8,7 +8,6 @@ struct GeometryEngine {
   RecordingUserInterface ui;
   CS2kConverter engine{ui};
   GeometryEngine() {
-    engine.sourceModel->Reset();
-    engine.targetModel->Reset();
+    engine.ResetConversion();
   }
 };

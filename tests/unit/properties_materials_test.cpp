@@ -30,7 +30,7 @@ int WalkForMaterial(const CKeyedTable<S2kMaterial1Row>& table, const std::string
 TEST(FindMaterialNumber, FoundNotFoundAndEmpty) {
   RecordingUserInterface ui;
   CS2kConverter engine(ui);
-  engine.sourceModel->Reset();
+  engine.ResetConversion();
   int number = 1;
   EXPECT_EQ(0, engine.Get<CProperties>().FindMaterialNumber("STEEL", number));
   EXPECT_EQ(1, number) << "an empty table leaves the number";
@@ -61,7 +61,7 @@ TEST(FindMaterialNumber, AgreesWithTheWalkOnLargeTables) {
   for (int rows : {1, 16, 17, 271, 272, 300, 1000}) {
     RecordingUserInterface ui;
     CS2kConverter engine(ui);
-    engine.sourceModel->Reset();
+    engine.ResetConversion();
     for (int key = 1; key <= rows; ++key)
       SourceOf<CProperties>(engine).Material1.SetAt(key, Material("N" + std::to_string(random() % (rows / 3 + 1))));
     for (int probe = 0; probe < 60; ++probe) {
@@ -82,8 +82,7 @@ TEST(ConvertMaterials, ThermalFollowsTheTemperatureUnit) {
                         Case{"f", 5, 9}, Case{"K", 1.2, 0}, Case{"", 1.2, 0}, Case{"CF", 1.2, 0}}) {
     RecordingUserInterface ui;
     CS2kConverter engine(ui);
-    engine.sourceModel->Reset();
-    engine.targetModel->Reset();
+    engine.ResetConversion();
     SourceOf<CGeometry>(engine).TemperatureUnit = c.unit;
     S2kMaterial1Row row = Material("STEEL");
     row.DesignType = "Steel";
@@ -100,8 +99,7 @@ TEST(ConvertMaterials, ThermalFollowsTheTemperatureUnit) {
 TEST(ConvertMaterials, OrthotropicPathSwapsTheSecondAndThirdAxes) {
   RecordingUserInterface ui;
   CS2kConverter engine(ui);
-  engine.sourceModel->Reset();
-  engine.targetModel->Reset();
+  engine.ResetConversion();
   SourceOf<CGeometry>(engine).TemperatureUnit = "F";
   S2kMaterial1Row material = Material("ORTHO", "Orthotropic");
   material.DesignType = "Concrete";

@@ -32,7 +32,7 @@ TEST(FindSectionOffsetCode, CardinalPointsBySubstringInOrder) {
                         Case{"Centroid", ""}, Case{"", ""}}) {
     RecordingUserInterface ui;
     CS2kConverter engine(ui);
-    engine.sourceModel->Reset();
+    engine.ResetConversion();
     SourceOf<CProperties>(engine).FrameSectionAssigns.SetAt(1, S2kFrameSectionAssignRow{"F1", "", "", "SEC", "", ""});
     SourceOf<CProperties>(engine).FrameInsertions.SetAt(1, S2kFrameInsertionRow{"F1", c.cardinalPoint, "GLOBAL"});
     std::string offset = "CC";
@@ -44,7 +44,7 @@ TEST(FindSectionOffsetCode, CardinalPointsBySubstringInOrder) {
 TEST(FindSectionOffsetCode, MissingTablesAndRows) {
   RecordingUserInterface ui;
   CS2kConverter engine(ui);
-  engine.sourceModel->Reset();
+  engine.ResetConversion();
   std::string offset = "CC";
   EXPECT_EQ(1, engine.Get<CProperties>().FindSectionOffsetCode("SEC", offset));
   EXPECT_EQ("CC", offset) << "no assignments";
@@ -104,8 +104,7 @@ TEST(ConvertNonprismaticSection, VariationWords) {
                         Case{"Parabolic", "Prabolic", 1, 2}, Case{"cubic", "", 1, 1}, Case{"Cubic", "Cubic", 3, 3}}) {
     RecordingUserInterface ui;
     CS2kConverter engine(ui);
-    engine.sourceModel->Reset();
-    engine.targetModel->Reset();
+    engine.ResetConversion();
     SourceOf<CProperties>(engine).FrameSections.SetAt(1, Section("A", "Pipe", 0.3));
     SourceOf<CProperties>(engine).FrameSections.SetAt(2, Section("B", "Pipe", 0.5));
     const S2kFrameSectionRow taper = Section("T", "Nonprismatic", 0);
@@ -128,8 +127,7 @@ TEST(ConvertNonprismaticSection, VariationWords) {
 TEST(ConvertNonprismaticSection, EndsFlagsAndDuplicateNames) {
   RecordingUserInterface ui;
   CS2kConverter engine(ui);
-  engine.sourceModel->Reset();
-  engine.targetModel->Reset();
+  engine.ResetConversion();
   CKeyedTable<S2kFrameSectionRow>& sections = SourceOf<CProperties>(engine).FrameSections;
   sections.SetAt(1, Section("A", "Double Angle", 0.2));
   sections.SetAt(2, Section("A", "Double Angle", 0.4));  // walked before key 1
