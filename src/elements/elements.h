@@ -59,6 +59,10 @@ class CElements : public CSubject {
   /// The first row in walk order of a frame or area name, or nullptr.
   const S2kConnectivityFrameRow* FindFrameConnectivity(const std::string& frame) const;
   const S2kConnectivityAreaRow* FindAreaConnectivity(const std::string& area) const;
+  /// The row a whole walk of table 202 ends on, or nullptr for an empty table.
+  const S2kConnectivityFrameRow* LastWalkedFrameConnectivity() const {
+    return source_.ConnectivityFrame.Lookup(frameConnectivityByName_.LastWalked(source_.ConnectivityFrame));
+  }
   /// Frames, areas and solids of the model, all told.
   int ElementCount() const {
     return source_.ConnectivityFrame.Count() + source_.ConnectivityArea.Count() + source_.ConnectivitySolid.Count();

@@ -64,6 +64,16 @@ class CProperties : public CSubject {
   void FindFrameSection(int key, int& iPRO, int& iMAT) const;
   /// AnalSect of the first row of table 252 for frame \p name. \returns 1 when found.
   int FindFrameSectionName(const std::string& name, std::string& section) const;
+  /// The first row in walk order of section, taper or material \p name, or nullptr.
+  const S2kFrameSectionRow* FindFrameSectionRow(const std::string& name) const {
+    return sectionNames_.Find(source_.FrameSections, name);
+  }
+  const S2kFrameNonprismaticRow* FindNonprismaticRow(const std::string& name) const {
+    return nonprismaticNames_.Find(source_.FrameNonprismatic, name);
+  }
+  const S2kMaterial1Row* FindMaterialRow(const std::string& name) const {
+    return materialNames_.Find(source_.Material1, name);
+  }
   /// The insertion points of frames (table 234), in their walk.
   const CKeyedTable<S2kFrameInsertionRow>& FrameInsertions() const { return source_.FrameInsertions; }
 

@@ -15,6 +15,7 @@
 #include "frame/converter.h"
 #include "geometry/geometry.h"
 #include "geometry/masses.h"
+#include "loads/frame_loads.h"
 #include "loads/joint_loads.h"
 #include "loads/load_cases.h"
 #include "loads/load_combinations.h"
@@ -36,8 +37,11 @@ constexpr SRunStep kConversionSteps[] = {
     {1, RunStep<&CJointLoads::ConvertJointGroundDisplacements>},
     {1, RunStep<&CGeometry::BuildJointNumberMapIfRenumbered>},
     // 2 frames
+    {2, RunStep<&CFrameLoads::ConvertFrameGravity, 1>},
     {2, RunStep<&CElements::ConvertFrames>},
     {2, RunStep<&CElements::ConvertFrameReleases>},
+    {2, RunStep<&CFrameLoads::ConvertFramePointLoads>},
+    {2, RunStep<&CFrameLoads::ConvertFrameDistributedLoads>},
     {2, RunStep<&CElements::ConvertFrameOffsets>},
     {2, RunStep<&CSprings::ConvertLineSprings, 1>},
     {2, RunStep<&CMasses::ConvertFrameMasses>},
@@ -45,6 +49,7 @@ constexpr SRunStep kConversionSteps[] = {
     {3, RunStep<&CLinks::ConvertLinks>},
     // 4 areas
     {4, RunStep<&CElements::ConvertAreas>},
+    {4, RunStep<&CFrameLoads::ConvertFrameGravity, 2>},
     {4, RunStep<&CMasses::ConvertAreaMasses>},
     {4, RunStep<&CSprings::ConvertLineSprings, 2>},
     // 5 solids
@@ -126,6 +131,7 @@ std::span<const std::vector<S2kTableParser>* const> TableParserLists() {
       &PropertyTableParsers(), &ElementTableParsers(), &SpringTableParsers(),
       &LoadCaseTableParsers(),
       &JointLoadTableParsers(),
+      &FrameLoadTableParsers(),
       &AnalysisTableParsers(),
       &LinkTableParsers(),
       &HistoryTableParsers(),

@@ -1,6 +1,7 @@
 // The load blocks of each static case, in the order they stand in the file.
 #include "frame/converter.h"
 #include "loads/auto_loads.h"
+#include "loads/frame_loads.h"
 #include "loads/joint_loads.h"
 #include "loads/load_cases.h"
 
@@ -16,7 +17,7 @@ struct SCaseBlockWriter {
 const SCaseBlockWriter kCaseBlockWriters[] = {
     {RunCaseStep<&CJointLoads::WriteConload>},
     {RunCaseStep<&CLoadCases::WriteSelfWeight>},
-    // *BEAMLOAD (frame loads)
+    {RunCaseStep<&CFrameLoads::WriteBeamload>},
     // *ELTEMPER (temperature loads)
     // *NDTEMPER (temperature loads)
     // *THERGRAD (temperature loads)

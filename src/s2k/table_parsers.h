@@ -14,6 +14,7 @@ const std::vector<S2kTableParser>& PropertyTableParsers();
 const std::vector<S2kTableParser>& SpringTableParsers();
 const std::vector<S2kTableParser>& LoadCaseTableParsers();
 const std::vector<S2kTableParser>& JointLoadTableParsers();
+const std::vector<S2kTableParser>& FrameLoadTableParsers();
 const std::vector<S2kTableParser>& AnalysisTableParsers();
 const std::vector<S2kTableParser>& HistoryTableParsers();
 const std::vector<S2kTableParser>& CombinationTableParsers();
