@@ -407,6 +407,30 @@ TEST(DesktopDialog, FiltersComeFromTheCatalogueText) {
   EXPECT_EQ(want, who.filterNames);
 }
 
+TEST(DesktopDialog, TypedNamesMustExistAndGetTheDefaultExtension) {
+  Folder folder;
+  WriteFile(folder / "model.dat", kMinimal);
+  {
+    User who;
+    who.choose = folder / "model";  // typed without an extension
+    Result result = Play(who);
+    EXPECT_EQ(0, result.code);
+    EXPECT_EQ((folder / "model.tvt").string(), result.outputPath);
+    EXPECT_TRUE(fs::exists(folder / "model.tvt"));
+  }
+  {
+    User who;
+    who.choose = folder / "missing.s2k";
+    Result result = Play(who);
+    EXPECT_EQ(1, result.code) << "left with Cancel after the box";
+    ASSERT_EQ(1u, who.boxes.size());
+    EXPECT_EQ((folder / "missing.s2k").string() + "\nFile not found.\nCheck the file name and try again.",
+              who.boxes[0].text);
+    EXPECT_FALSE(who.boxes[0].progressShown);
+    EXPECT_FALSE(fs::exists(folder / "missing.tvt"));
+  }
+}
+
 TEST(DesktopRun, ChosenFileConvertsWithOkOnEachBox) {
   Folder folder;
   WriteFile(folder / "model.s2k", kBoxInEachStage);
