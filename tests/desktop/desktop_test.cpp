@@ -401,10 +401,19 @@ TEST(DesktopDialog, CancelGivesOneWithNoWindowAndNoMessage) {
 TEST(DesktopDialog, FiltersComeFromTheCatalogueText) {
   User who;
   Play(who);
-  std::vector<std::string> want = {"SAP2000 V8 text files (*.s2k)", "All files (*)"};
-  if (Text("IDS_S2KV8_FILE_FILTER") != "SAP2000 V8 text files (*.s2k)|*.s2k|All files (*)|*||")
-    GTEST_SKIP() << "the catalogue's filter text has changed: " << Text("IDS_S2KV8_FILE_FILTER");
-  EXPECT_EQ(want, who.filterNames);
+  const std::string fallback = "Error : DLL is not loaded. check message dll!";
+  std::string text = Text("IDS_S2KV8_FILE_FILTER");
+  if (std::getenv("QUILLMESH_TEST_NO_CATALOGUE")) {
+    ASSERT_EQ(fallback, text) << "the catalogue was found";
+  }
+  if (text == fallback) {
+    // Run without the catalogue: its fallback text is the one filter.
+    EXPECT_EQ(std::vector<std::string>{fallback}, who.filterNames);
+    return;
+  }
+  if (text != "SAP2000 V8 text files (*.s2k)|*.s2k|All files (*)|*||")
+    GTEST_SKIP() << "the catalogue's filter text has changed: " << text;
+  EXPECT_EQ((std::vector<std::string>{"SAP2000 V8 text files (*.s2k)", "All files (*)"}), who.filterNames);
 }
 
 TEST(DesktopDialog, TypedNamesMustExistAndGetTheDefaultExtension) {
