@@ -1,6 +1,6 @@
 // Conversion time and memory by model size. Generates s2k models of growing
 // size (joints, frames, areas, sections, materials, restraints, offsets,
-// releases, springs, masses, local axes, diaphragms), converts each in a
+// releases, springs, masses, local axes, diaphragms, static loads), converts each in a
 // child process through ConvertPath with a silent user interface, and
 // prints time, peak memory and rows per second.
 //
@@ -40,7 +40,36 @@ struct Model {
 // A square grid of n joints; one frame per joint along the grid lines, an
 // area per hundred joints, a rigid zone and a release on every tenth frame.
 // With \p named, joints and frames get names that are not numbers.
-Model WriteModel(const std::filesystem::path& path, int n, bool named, bool springsAndMasses) {
+// Ten static cases; a force on every joint, and a distributed and a point
+// load on every frame, the cases taken in turn.
+void WriteLoads(std::ostream& out, Model& model, int n, int frames, const std::string& joint,
+                const std::string& frame) {
+  constexpr int kCases = 10;
+  out << "TABLE:  \"LOAD CASE DEFINITIONS\"\n";
+  for (int c = 1; c <= kCases; ++c) out << "   LoadCase=L" << c << "   DesignType=DEAD   SelfWtMult=0\n";
+  out << "\nTABLE:  \"CASE - STATIC 1 - LOAD ASSIGNMENTS\"\n";
+  for (int c = 1; c <= kCases; ++c)
+    out << "   Case=C" << c << "   LoadType=\"Load case\"   LoadName=L" << c << "   LoadSF=1\n";
+  out << "\nTABLE:  \"ANALYSIS CASE DEFINITIONS\"\n";
+  for (int c = 1; c <= kCases; ++c) out << "   Case=C" << c << "   Type=LinStatic   InitialCond=Zero\n";
+  model.rows += 3 * kCases;
+  out << "\nTABLE:  \"JOINT LOADS - FORCE\"\n";
+  for (int i = 0; i < n; ++i, ++model.rows)
+    out << "   Joint=" << joint << i + 1 << "   LoadCase=L" << i % kCases + 1
+        << "   CoordSys=GLOBAL   F1=0   F2=0   F3=-1   M1=0   M2=0   M3=0\n";
+  out << "\nTABLE:  \"FRAME LOADS - DISTRIBUTED\"\n";
+  for (int f = 0; f < frames; ++f, ++model.rows)
+    out << "   Frame=" << frame << f + 1 << "   LoadCase=L" << f % kCases + 1
+        << "   CoordSys=GLOBAL   Type=Force   Dir=Gravity   DistType=RelDist   RelDistA=0   RelDistB=1   FOverLA=2   "
+           "FOverLB=2\n";
+  out << "\nTABLE:  \"FRAME LOADS - POINT\"\n";
+  for (int f = 0; f < frames; ++f, ++model.rows)
+    out << "   Frame=" << frame << f + 1 << "   LoadCase=L" << (f + 5) % kCases + 1
+        << "   CoordSys=GLOBAL   Type=Force   Dir=Gravity   DistType=AbsDist   AbsDist=0.5   Force=3\n";
+  out << "\n";
+}
+
+Model WriteModel(const std::filesystem::path& path, int n, bool named, bool springsAndMasses, bool loads = false) {
   std::ofstream out(path);
   Model model;
   const std::string joint = named ? "J" : "";
@@ -136,6 +165,7 @@ Model WriteModel(const std::filesystem::path& path, int n, bool named, bool spri
   out << "\n";
   model.rows += 2L * areas;
 
+  if (loads) WriteLoads(out, model, n, static_cast<int>(frames.size()), joint, frame);
   if (!springsAndMasses) {
     out << "END TABLE DATA\n";
     return model;
@@ -335,7 +365,8 @@ int main(int argc, char** argv) {
   // and releases; full: the same with springs and masses; supports: joints
   // with restraints, local axes, masses and diaphragms.
   // bridge: a girder of half as many frames with lanes, vehicles and links.
-  enum class Kind { Elements, Full, Supports, Bridge };
+  // loads: elements with ten static cases of joint, distributed and point loads.
+  enum class Kind { Elements, Full, Supports, Bridge, Loads };
   struct Scenario {
     const char* name;
     Kind kind;
@@ -344,6 +375,7 @@ int main(int argc, char** argv) {
   const Scenario scenarios[] = {
       {"elements", Kind::Elements, false}, {"elements", Kind::Elements, true}, {"full", Kind::Full, false},
       {"full", Kind::Full, true},          {"supports", Kind::Supports, true}, {"bridge", Kind::Bridge, true},
+      {"loads", Kind::Loads, false},       {"loads", Kind::Loads, true},
   };
   std::printf("%-9s %-9s %9s %10s %10s %8s %9s %12s %8s %5s\n", "model", "names", "joints", "rows", "mass rows",
               "file MB", "seconds", "rows/second", "peak MB", "code");
@@ -354,7 +386,8 @@ int main(int argc, char** argv) {
       fs::path path = folder / "model.s2k";
       Model model = scenario.kind == Kind::Supports ? WriteSupportsModel(path, n)
                     : scenario.kind == Kind::Bridge   ? WriteBridgeModel(path, n / 2)
-                                                      : WriteModel(path, n, scenario.named, scenario.kind == Kind::Full);
+                                                      : WriteModel(path, n, scenario.named, scenario.kind == Kind::Full,
+                                                                   scenario.kind == Kind::Loads);
       double megabytes = static_cast<double>(fs::file_size(path)) / (1024.0 * 1024.0);
       Result result = ConvertInChild(path);
       std::printf("%-9s %-9s %9d %10ld %10ld %8.1f %9.3f %12.0f %8ld %5d\n", scenario.name,
