@@ -274,7 +274,7 @@ void OpenProgress(QmFrontEnd* ui, int lineCount) {
   ui->stopFlag = 0;
   ui->escapePressed = false;
   ui->stageText.clear();
-  ui->shownStage.clear();
+  ui->shownStage = kStageLabel.text;
   ui->shownFraction = -1;
   ui->barModel = ProgressBarModel{};
 

@@ -8,8 +8,10 @@
 #include <gdk/x11/gdkx.h>
 #include <X11/extensions/XTest.h>
 #include <X11/keysym.h>
+#include <X11/Xatom.h>
 // clang-format on
 #include <cairo.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include <cmath>
@@ -607,6 +609,87 @@ TEST(DesktopRun, AReadThatCouldNeverEndIsStoppedWithABox) {
     EXPECT_FALSE(result.windowsLeft) << c.name;
     EXPECT_FALSE(fs::exists(folder / "model.tvt")) << c.name;
   }
+}
+
+// The program's own windows on the X server: the shown top-level windows of
+// process \p pid, with their titles.
+std::vector<std::pair<Window, std::string>> WindowsOf(pid_t pid) {
+  std::vector<std::pair<Window, std::string>> found;
+  Display* display = XDisplay();
+  Atom pidAtom = XInternAtom(display, "_NET_WM_PID", False);
+  Window root = 0, parent = 0, *children = nullptr;
+  unsigned count = 0;
+  if (!XQueryTree(display, DefaultRootWindow(display), &root, &parent, &children, &count)) return found;
+  for (unsigned i = 0; i < count; ++i) {
+    XWindowAttributes attributes;
+    if (!XGetWindowAttributes(display, children[i], &attributes) || attributes.map_state != IsViewable) continue;
+    Atom type = 0;
+    int format = 0;
+    unsigned long items = 0, after = 0;
+    unsigned char* data = nullptr;
+    bool ours = XGetWindowProperty(display, children[i], pidAtom, 0, 1, False, XA_CARDINAL, &type, &format, &items,
+                                   &after, &data) == Success &&
+                data && items == 1 && static_cast<pid_t>(*reinterpret_cast<unsigned long*>(data)) == pid;
+    if (data) XFree(data);
+    if (!ours) continue;
+    char* name = nullptr;
+    std::string title = XFetchName(display, children[i], &name) && name ? name : "";
+    if (name) XFree(name);
+    found.emplace_back(children[i], title);
+  }
+  if (children) XFree(children);
+  return found;
+}
+
+TEST(DesktopProgram, ConvertsTheNamedFileWithReturnOnEachBox) {
+  Folder folder;
+  WriteFile(folder / "model.s2k", kMinimal);
+  int out[2];
+  ASSERT_EQ(0, pipe(out));
+  pid_t child = fork();
+  if (child == 0) {
+    dup2(out[1], 1);
+    close(out[0]);
+    execl(QUILLMESH_GUI, QUILLMESH_GUI, (folder / "model.s2k").c_str(), static_cast<char*>(nullptr));
+    _exit(127);
+  }
+  close(out[1]);
+  Display* display = XDisplay();
+  KeyCode enter = XKeysymToKeycode(display, XK_Return);
+  std::vector<std::string> boxesAnswered;
+  int status = 0;
+  bool ended = false;
+  gint64 until = g_get_monotonic_time() + 20 * G_USEC_PER_SEC, lastPress = 0;
+  while (g_get_monotonic_time() < until) {
+    if (waitpid(child, &status, WNOHANG) == child) {
+      ended = true;
+      break;
+    }
+    g_usleep(20000);
+    if (g_get_monotonic_time() - lastPress < 300000) continue;  // give a box the time to close
+    for (auto& [window, title] : WindowsOf(child)) {
+      if (title == kProgressTitle) continue;
+      // A box: OK is its default button, so Return closes it.
+      XSetInputFocus(display, window, RevertToParent, CurrentTime);
+      XTestFakeKeyEvent(display, enter, True, 0);
+      XTestFakeKeyEvent(display, enter, False, 0);
+      XSync(display, False);
+      boxesAnswered.push_back(title);
+      lastPress = g_get_monotonic_time();
+      break;
+    }
+  }
+  if (!ended) kill(child, SIGKILL), waitpid(child, &status, 0);
+  std::string printed;
+  char buffer[512];
+  for (ssize_t n; (n = read(out[0], buffer, sizeof buffer)) > 0;) printed.append(buffer, static_cast<std::size_t>(n));
+  close(out[0]);
+  ASSERT_TRUE(ended) << "quillmesh-gui did not end";
+  ASSERT_TRUE(WIFEXITED(status));
+  EXPECT_EQ(0, WEXITSTATUS(status));
+  EXPECT_EQ((folder / "model.tvt").string() + "\n", printed);
+  EXPECT_TRUE(fs::exists(folder / "model.tvt"));
+  EXPECT_EQ(2u, boxesAnswered.size()) << "the opening message, then the output path";
 }
 
 TEST(DesktopChoice, DesktopOnTheMainThreadTerminalElsewhereOrWhenForced) {
