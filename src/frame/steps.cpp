@@ -19,6 +19,7 @@
 #include "loads/joint_loads.h"
 #include "loads/load_cases.h"
 #include "loads/load_combinations.h"
+#include "loads/prestress_loads.h"
 #include "s2k/table_parsers.h"
 #include "tvt/structure_type.h"
 
@@ -42,6 +43,8 @@ constexpr SRunStep kConversionSteps[] = {
     {2, RunStep<&CElements::ConvertFrameReleases>},
     {2, RunStep<&CFrameLoads::ConvertFramePointLoads>},
     {2, RunStep<&CFrameLoads::ConvertFrameDistributedLoads>},
+    {2, RunStep<&CPrestressLoads::ConvertFramePrestress>},
+    {2, RunStep<&CPrestressLoads::ConvertFrameInitialForces>},
     {2, RunStep<&CElements::ConvertFrameOffsets>},
     {2, RunStep<&CSprings::ConvertLineSprings, 1>},
     {2, RunStep<&CMasses::ConvertFrameMasses>},
@@ -97,7 +100,7 @@ constexpr SRunStep kWriterSteps[] = {
     {14, RunStep<&CMasses::WriteNodalMasses>},     // *NODALMASS
     {15, RunStep<&CElements::WriteOffsets>},         // *OFFSET
     {16, RunStep<&CElements::WriteFrameReleases>},   // *FRAME-RLS
-    // 17 *INIFORCE
+    {17, RunStep<&CPrestressLoads::WriteIniforce>},  // *INIFORCE
     {18, RunStep<&CLinks::WriteElasticLinks>},  // *ELASTICLINK
     {19, RunStep<&CLinks::WriteNlProps>},       // *NL-PROP
     {20, RunStep<&CLinks::WriteNlLinks>},       // *NL-LINK
@@ -132,6 +135,7 @@ std::span<const std::vector<S2kTableParser>* const> TableParserLists() {
       &LoadCaseTableParsers(),
       &JointLoadTableParsers(),
       &FrameLoadTableParsers(),
+      &PrestressTableParsers(),
       &AnalysisTableParsers(),
       &LinkTableParsers(),
       &HistoryTableParsers(),

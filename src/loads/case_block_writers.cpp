@@ -4,6 +4,7 @@
 #include "loads/frame_loads.h"
 #include "loads/joint_loads.h"
 #include "loads/load_cases.h"
+#include "loads/prestress_loads.h"
 
 namespace {
 
@@ -22,7 +23,7 @@ const SCaseBlockWriter kCaseBlockWriters[] = {
     // *NDTEMPER (temperature loads)
     // *THERGRAD (temperature loads)
     {RunCaseStep<&CJointLoads::WriteSpdisp>},
-    // *PRESTRESS (prestress loads)
+    {RunCaseStep<&CPrestressLoads::WritePrestress>},
     // *PRESSURE (surface loads)
     {RunCaseStep<&CAutoLoads::WriteWind>, "W"},
     {RunCaseStep<&CAutoLoads::WriteSeis>, "E"},
