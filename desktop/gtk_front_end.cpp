@@ -436,12 +436,11 @@ void Close(QmFrontEnd* ui) {
   delete ui;
 }
 
-int ChooseInputFileEntry(QmFrontEnd* ui, const char* filter, char** path) { return ChooseInputFile(ui, filter, path); }
 void ShowMessage(QmFrontEnd* ui, const char* text) { ShowBox(ui, text ? text : ""); }
 
 constexpr QmFrontEndFunctions kFunctions{
-    QM_FRONT_END_VERSION, Open,     Close,    ChooseInputFileEntry, ShowMessage, OpenProgress,
-    SetStage,             SetRange, Advance,  CloseProgress,
+    QM_FRONT_END_VERSION, Open, Close, ChooseInputFile, ShowMessage, OpenProgress,
+    SetStage,             SetRange, Advance, CloseProgress,
 };
 
 }  // namespace
