@@ -59,6 +59,13 @@ class CElements : public CSubject {
   /// The first row in walk order of a frame or area name, or nullptr.
   const S2kConnectivityFrameRow* FindFrameConnectivity(const std::string& frame) const;
   const S2kConnectivityAreaRow* FindAreaConnectivity(const std::string& area) const;
+  const S2kConnectivitySolidRow* FindSolidConnectivity(const std::string& solid) const {
+    return solidConnectivityByName_.Find(source_.ConnectivitySolid, solid);
+  }
+  /// The first row of table 126 named \p section in walk order, or nullptr.
+  const S2kAreaSectionRow* FindAreaSectionRow(const std::string& section) const {
+    return areaSectionRows_.Find(source_.AreaSection, section);
+  }
   /// The row a whole walk of table 202 ends on, or nullptr for an empty table.
   const S2kConnectivityFrameRow* LastWalkedFrameConnectivity() const {
     return source_.ConnectivityFrame.Lookup(frameConnectivityByName_.LastWalked(source_.ConnectivityFrame));
@@ -123,6 +130,7 @@ class CElements : public CSubject {
   CNameIndex<S2kFramePartialFixRow> partialFixFrames_{&S2kFramePartialFixRow::Frame};
   CNameIndex<S2kConnectivityFrameRow> frameConnectivityByName_{&S2kConnectivityFrameRow::Frame};
   CNameIndex<S2kConnectivityAreaRow> areaConnectivityByName_{&S2kConnectivityAreaRow::Area};
+  CNameIndex<S2kConnectivitySolidRow> solidConnectivityByName_{&S2kConnectivitySolidRow::Solid};
   /// Frame names of the offset records, kept while the offsets are converted.
   std::unordered_map<std::string, int> offsetFrames_;
 };

@@ -20,6 +20,7 @@
 #include "loads/load_cases.h"
 #include "loads/load_combinations.h"
 #include "loads/prestress_loads.h"
+#include "loads/temperature_loads.h"
 #include "s2k/table_parsers.h"
 #include "tvt/structure_type.h"
 
@@ -45,6 +46,7 @@ constexpr SRunStep kConversionSteps[] = {
     {2, RunStep<&CFrameLoads::ConvertFrameDistributedLoads>},
     {2, RunStep<&CPrestressLoads::ConvertFramePrestress>},
     {2, RunStep<&CPrestressLoads::ConvertFrameInitialForces>},
+    {2, RunStep<&CTemperatureLoads::ConvertTemperatureLoads, 1>},
     {2, RunStep<&CElements::ConvertFrameOffsets>},
     {2, RunStep<&CSprings::ConvertLineSprings, 1>},
     {2, RunStep<&CMasses::ConvertFrameMasses>},
@@ -55,8 +57,10 @@ constexpr SRunStep kConversionSteps[] = {
     {4, RunStep<&CFrameLoads::ConvertFrameGravity, 2>},
     {4, RunStep<&CMasses::ConvertAreaMasses>},
     {4, RunStep<&CSprings::ConvertLineSprings, 2>},
+    {4, RunStep<&CTemperatureLoads::ConvertTemperatureLoads, 2>},
     // 5 solids
     {5, RunStep<&CElements::ConvertSolids>},
+    {5, RunStep<&CTemperatureLoads::ConvertTemperatureLoads, 3>},
     // 6 load cases: self weight
     {6, RunStep<&CLoadCases::ConvertSelfWeight>},
     // 7 materials
@@ -136,6 +140,7 @@ std::span<const std::vector<S2kTableParser>* const> TableParserLists() {
       &JointLoadTableParsers(),
       &FrameLoadTableParsers(),
       &PrestressTableParsers(),
+      &TemperatureTableParsers(),
       &AnalysisTableParsers(),
       &LinkTableParsers(),
       &HistoryTableParsers(),

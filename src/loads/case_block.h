@@ -44,7 +44,8 @@ int WriteCaseBlock(CS2kConverter& engine, const std::string& loadCase, const cha
   if (header) engine.WriteText("%s\n", header);
   engine.WriteText("%s\n", comment);
   for (int key : hit->second) {
-    const Rec* rec = key ? table.Lookup(key) : &kEmpty;
+    // In a walk every key is a record's, 0 too.
+    const Rec* rec = order == CaseBlockOrder::KeyOrder && key == 0 ? &kEmpty : table.Lookup(key);
     writeRow(*rec);
   }
   engine.WriteText(";End of data for load case [%s]\n", loadCase.c_str());

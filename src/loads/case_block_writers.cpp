@@ -5,6 +5,7 @@
 #include "loads/joint_loads.h"
 #include "loads/load_cases.h"
 #include "loads/prestress_loads.h"
+#include "loads/temperature_loads.h"
 
 namespace {
 
@@ -19,9 +20,9 @@ const SCaseBlockWriter kCaseBlockWriters[] = {
     {RunCaseStep<&CJointLoads::WriteConload>},
     {RunCaseStep<&CLoadCases::WriteSelfWeight>},
     {RunCaseStep<&CFrameLoads::WriteBeamload>},
-    // *ELTEMPER (temperature loads)
-    // *NDTEMPER (temperature loads)
-    // *THERGRAD (temperature loads)
+    {RunCaseStep<&CTemperatureLoads::WriteEltemper>},
+    {RunCaseStep<&CTemperatureLoads::WriteNdtemper>},
+    {RunCaseStep<&CTemperatureLoads::WriteThergrad>},
     {RunCaseStep<&CJointLoads::WriteSpdisp>},
     {RunCaseStep<&CPrestressLoads::WritePrestress>},
     // *PRESSURE (surface loads)
