@@ -18,6 +18,12 @@ class QM_EXPORT UserInterface {
   /// A modal box with OK alone; returns once the user has closed it.
   /// \p key is the catalogue key, empty for the texts of the system itself.
   virtual void ShowMessage(const std::string& text, const std::string& key) = 0;
+  /// The same for a catalogue text formatted with one text \p argument;
+  /// by default shown as any other message.
+  virtual void ShowFormattedMessage(const std::string& text, const std::string& key, const std::string& argument) {
+    (void)argument;
+    ShowMessage(text, key);
+  }
 
   /// Opens the window; the bar of the reading stage runs to \p lineCount.
   virtual void OpenProgress(int lineCount) = 0;
@@ -42,6 +48,9 @@ QM_EXPORT bool ReadingPastEnd(int stage, int position, int lineCount);
 /// The path of the .tvt file for an input: the text before the last dot of
 /// the path, wherever it stands, plus ".tvt".
 QM_EXPORT std::string OutputPathFor(const std::string& inputPath);
+
+/// The library's version, "major.minor.patch".
+QM_EXPORT const char* Version();
 
 /// Converts \p inputPath. \returns 0 finished, 1 stopped, -1 failed.
 QM_EXPORT int ConvertPath(const std::string& inputPath, UserInterface& ui);

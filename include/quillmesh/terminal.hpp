@@ -15,6 +15,8 @@ struct TerminalOptions {
   bool messageKeys = false;
   /// Draw the progress display (only ever on a terminal).
   bool progress = true;
+  /// Written before each message, e.g. the file's name in a batch.
+  std::string messagePrefix;
 };
 
 class QM_EXPORT TerminalUserInterface : public UserInterface {
@@ -34,12 +36,20 @@ class QM_EXPORT TerminalUserInterface : public UserInterface {
   /// Why the last run stopped, for the front end's own words; empty when the
   /// user did not stop it.
   const std::string& StopReason() const { return stopReason_; }
+  /// True when the last run was stopped by Ctrl-C or Esc, which stop every
+  /// conversion running at that moment.
+  bool StoppedByUser() const { return stoppedByUser_; }
+
+ protected:
+  /// Prints one line of the run's messages and notes on stderr.
+  virtual void WriteLine(const std::string& line);
 
  private:
+  /// The line a message is printed as, without its newline.
+  std::string MessageLine(const std::string& text, const std::string& key) const;
   void Draw(bool force);
   void ClearLine();
   void Note(const std::string& text);
-  bool EscapePressed();
   void RestoreTerminal();
 
   TerminalOptions options_;
@@ -51,9 +61,8 @@ class QM_EXPORT TerminalUserInterface : public UserInterface {
   int high_ = 0;
   int position_ = 0;
   int lastPercent_ = -1;
-  int tty_ = -1;
-  bool termiosSaved_ = false;
-  unsigned char savedTermios_[64] = {};
+  bool holdsTerminal_ = false;
+  bool stoppedByUser_ = false;
   std::string stopReason_;
 };
 

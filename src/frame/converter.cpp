@@ -24,7 +24,7 @@ void CS2kConverter::ShowMessage(const char* key, const std::string& argument) {
   int size = std::snprintf(nullptr, 0, format, argument.c_str());
   std::string text(size > 0 ? static_cast<std::size_t>(size) : 0, '\0');
   if (size > 0) std::snprintf(text.data(), text.size() + 1, format, argument.c_str());
-  ui_.ShowMessage(text, key);
+  ui_.ShowFormattedMessage(text, key, argument);
 }
 
 void CS2kConverter::ResetConversion() {

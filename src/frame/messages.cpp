@@ -4,7 +4,9 @@
 #include <dlfcn.h>
 #include <unistd.h>
 
+#include <atomic>
 #include <climits>
+#include <mutex>
 #include <string>
 
 #include "quillmesh/quillmesh.hpp"
@@ -15,7 +17,9 @@ using LoadStrFunction = const char* (*)(const char*);
 
 const char* Fallback(const char*) { return "Error : DLL is not loaded. check message dll!"; }
 
-LoadStrFunction loadStr = Fallback;
+// Read by every run, on any thread; bound and released under the lock.
+std::atomic<LoadStrFunction> loadStr{Fallback};
+std::mutex bindingLock;
 void* messageLibrary = nullptr;
 
 }  // namespace
@@ -46,27 +50,29 @@ struct LibraryLifetime {
 
 }  // namespace
 
-const char* LoadStrEntry(const char* key) { return loadStr(key); }
+const char* LoadStrEntry(const char* key) { return loadStr.load(std::memory_order_acquire)(key); }
 
 int BindMessageLibrary() {
+  std::lock_guard<std::mutex> hold(bindingLock);
   if (messageLibrary) return 1;
   std::string name = LibraryFolder() + "/lib" + "Convert" + "msg" + ".so";
   messageLibrary = dlopen(name.c_str(), RTLD_NOW | RTLD_LOCAL);
   if (!messageLibrary) return 0;
   if (auto entry = reinterpret_cast<LoadStrFunction>(dlsym(messageLibrary, "LoadStr"))) {
-    loadStr = entry;
+    loadStr.store(entry, std::memory_order_release);
     return 1;
   }
-  loadStr = Fallback;
+  loadStr.store(Fallback, std::memory_order_release);
   dlclose(messageLibrary);
   messageLibrary = nullptr;
   return 0;
 }
 
 int ReleaseMessageLibrary() {
+  std::lock_guard<std::mutex> hold(bindingLock);
+  loadStr.store(Fallback, std::memory_order_release);
   if (messageLibrary) dlclose(messageLibrary);
   messageLibrary = nullptr;
-  loadStr = Fallback;
   return 1;
 }
 

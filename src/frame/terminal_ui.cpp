@@ -8,21 +8,93 @@
 #include <termios.h>
 #include <unistd.h>
 
+#include <atomic>
 #include <csignal>
 #include <cstdio>
 #include <cstring>
 #include <iostream>
+#include <mutex>
 
 namespace quillmesh {
 namespace {
 
-volatile std::sig_atomic_t interrupted = 0;
-struct sigaction previousAction {};
-bool handlerInstalled = false;
+// Ctrl-C, Esc and the terminal's key mode belong to the process, not to one
+// conversion: the first open progress takes them, the last close gives them
+// back, and a stop reaches every conversion running at that moment.
+std::atomic<int> interrupted{0};
+std::atomic<bool> escaped{false};
+static_assert(std::atomic<int>::is_always_lock_free, "the Ctrl-C handler writes it");
+
+struct SharedTerminal {
+  std::mutex lock;
+  int users = 0;
+  struct sigaction previousAction {};
+  bool handlerInstalled = false;
+  int tty = -1;
+  bool termiosSaved = false;
+  struct termios savedTermios {};
+};
+
+SharedTerminal& Shared() {
+  static SharedTerminal shared;
+  return shared;
+}
 
 void OnInterrupt(int) {
   if (interrupted) _exit(130);  // a second Ctrl-C does not wait for the run
   interrupted = 1;
+}
+
+void TakeTerminal() {
+  SharedTerminal& shared = Shared();
+  std::lock_guard<std::mutex> hold(shared.lock);
+  if (shared.users++ > 0) return;
+  interrupted = 0;
+  escaped = false;
+  struct sigaction action {};
+  action.sa_handler = OnInterrupt;
+  sigemptyset(&action.sa_mask);
+  shared.handlerInstalled = sigaction(SIGINT, &action, &shared.previousAction) == 0;
+  // Esc is read from the controlling terminal, key by key, without echo.
+  shared.tty = ::open("/dev/tty", O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
+  if (shared.tty >= 0 && ::tcgetattr(shared.tty, &shared.savedTermios) == 0) {
+    shared.termiosSaved = true;
+    struct termios raw = shared.savedTermios;
+    raw.c_lflag &= ~static_cast<tcflag_t>(ICANON | ECHO);
+    raw.c_cc[VMIN] = 0;
+    raw.c_cc[VTIME] = 0;
+    ::tcsetattr(shared.tty, TCSANOW, &raw);
+  }
+}
+
+void GiveBackTerminal() {
+  SharedTerminal& shared = Shared();
+  std::lock_guard<std::mutex> hold(shared.lock);
+  if (shared.users == 0 || --shared.users > 0) return;
+  if (shared.tty >= 0) {
+    if (shared.termiosSaved) ::tcsetattr(shared.tty, TCSANOW, &shared.savedTermios);
+    ::close(shared.tty);
+  }
+  shared.tty = -1;
+  shared.termiosSaved = false;
+  if (shared.handlerInstalled) sigaction(SIGINT, &shared.previousAction, nullptr);
+  shared.handlerInstalled = false;
+}
+
+// True once Esc was pressed since the terminal was taken.
+bool EscapePressed() {
+  SharedTerminal& shared = Shared();
+  std::lock_guard<std::mutex> hold(shared.lock);
+  if (shared.tty >= 0) {
+    unsigned char keys[64];
+    for (;;) {
+      ssize_t n = ::read(shared.tty, keys, sizeof keys);
+      if (n <= 0) break;
+      for (ssize_t i = 0; i < n; ++i)
+        if (keys[i] == 27) escaped = true;
+    }
+  }
+  return escaped;
 }
 
 std::string OneLine(std::string text) {
@@ -59,19 +131,26 @@ void TerminalUserInterface::ClearLine() {
   lineDrawn_ = false;
 }
 
+std::string TerminalUserInterface::MessageLine(const std::string& text, const std::string& key) const {
+  std::string line = options_.messagePrefix + OneLine(text);
+  if (options_.messageKeys && !key.empty()) line += " [" + key + "]";
+  return line;
+}
+
 void TerminalUserInterface::ShowMessage(const std::string& text, const std::string& key) {
   ClearLine();
-  std::string line = OneLine(text);
-  if (options_.messageKeys && !key.empty()) line += " [" + key + "]";
+  WriteLine(MessageLine(text, key));
+  Draw(true);
+}
+
+void TerminalUserInterface::WriteLine(const std::string& line) {
   std::fprintf(stderr, "%s\n", line.c_str());
   std::fflush(stderr);
-  Draw(true);
 }
 
 void TerminalUserInterface::Note(const std::string& text) {
   ClearLine();
-  std::fprintf(stderr, "quillmesh: %s: %s\n", options_.inputPath.c_str(), text.c_str());
-  std::fflush(stderr);
+  WriteLine("quillmesh: " + options_.inputPath + ": " + text);
 }
 
 void TerminalUserInterface::OpenProgress(int lineCount) {
@@ -81,26 +160,9 @@ void TerminalUserInterface::OpenProgress(int lineCount) {
   high_ = lineCount;
   position_ = 0;
   stopReason_.clear();
-  interrupted = 0;
-  struct sigaction action {};
-  action.sa_handler = OnInterrupt;
-  sigemptyset(&action.sa_mask);
-  if (!handlerInstalled && sigaction(SIGINT, &action, &previousAction) == 0) handlerInstalled = true;
-  // Esc is read from the controlling terminal, key by key, without echo.
-  tty_ = ::open("/dev/tty", O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
-  if (tty_ >= 0) {
-    struct termios saved {};
-    if (::tcgetattr(tty_, &saved) == 0) {
-      static_assert(sizeof(saved) <= sizeof(savedTermios_));
-      std::memcpy(savedTermios_, &saved, sizeof saved);
-      termiosSaved_ = true;
-      struct termios raw = saved;
-      raw.c_lflag &= ~static_cast<tcflag_t>(ICANON | ECHO);
-      raw.c_cc[VMIN] = 0;
-      raw.c_cc[VTIME] = 0;
-      ::tcsetattr(tty_, TCSANOW, &raw);
-    }
-  }
+  stoppedByUser_ = false;
+  if (!holdsTerminal_) TakeTerminal();
+  holdsTerminal_ = true;
   Draw(true);
 }
 
@@ -115,19 +177,6 @@ void TerminalUserInterface::SetRange(int high) {
   Draw(true);
 }
 
-bool TerminalUserInterface::EscapePressed() {
-  if (tty_ < 0) return false;
-  unsigned char keys[64];
-  bool escape = false;
-  for (;;) {
-    ssize_t n = ::read(tty_, keys, sizeof keys);
-    if (n <= 0) break;
-    for (ssize_t i = 0; i < n; ++i)
-      if (keys[i] == 27) escape = true;
-  }
-  return escape;
-}
-
 bool TerminalUserInterface::Advance(int position) {
   if (!open_) return false;
   const char* reason = nullptr;
@@ -138,6 +187,7 @@ bool TerminalUserInterface::Advance(int position) {
   else if (ReadingPastEnd(stage_, position, lineCount_))
     reason = kEndsInsideTable;
   if (reason) {
+    stoppedByUser_ = interrupted || escaped;
     CloseProgress();
     stopReason_ = reason;
     Note(reason);
@@ -154,18 +204,8 @@ void TerminalUserInterface::InputEndsInFileLine() {
 }
 
 void TerminalUserInterface::RestoreTerminal() {
-  if (tty_ >= 0) {
-    if (termiosSaved_) {
-      struct termios saved {};
-      std::memcpy(&saved, savedTermios_, sizeof saved);
-      ::tcsetattr(tty_, TCSANOW, &saved);
-    }
-    ::close(tty_);
-  }
-  tty_ = -1;
-  termiosSaved_ = false;
-  if (handlerInstalled) sigaction(SIGINT, &previousAction, nullptr);
-  handlerInstalled = false;
+  if (holdsTerminal_) GiveBackTerminal();
+  holdsTerminal_ = false;
 }
 
 void TerminalUserInterface::CloseProgress() {

@@ -1,0 +1,134 @@
+// The options, described once: the parser and the help both read this table.
+#include "options.h"
+
+#include <cerrno>
+#include <cstdlib>
+
+namespace cli {
+namespace {
+
+struct OptionSpec {
+  const char* shortName;  ///< "" when there is none
+  const char* longName;
+  const char* argument;   ///< "" for a flag
+  const char* help;
+  /// Takes the option, with its argument when it has one. \returns an error.
+  std::string (*apply)(const std::string& argument, Options& options);
+};
+
+std::string ParseJobs(const std::string& text, Options& options) {
+  errno = 0;
+  char* end = nullptr;
+  long jobs = std::strtol(text.c_str(), &end, 10);
+  if (text.empty() || *end != '\0' || errno != 0 || jobs < 1 || jobs > 256)
+    return "-j needs a number of files to convert at a time, from 1 to 256, not '" + text + "'";
+  options.jobs = static_cast<int>(jobs);
+  return "";
+}
+
+constexpr OptionSpec kOptions[] = {
+    {"-j", "--jobs", "N", "convert N files at a time, each with its own engine (default 1)", ParseJobs},
+    {"", "--report", "FILE.json", "write one JSON report of the whole run to FILE.json",
+     [](const std::string& path, Options& options) -> std::string {
+       if (path.empty()) return "--report needs a file name";
+       options.reportPath = path;
+       return "";
+     }},
+    {"", "--message-keys", "", "print the catalogue key behind each message",
+     [](const std::string&, Options& options) -> std::string {
+       options.messageKeys = true;
+       return "";
+     }},
+    {"", "--no-progress", "", "no progress display, even on a terminal",
+     [](const std::string&, Options& options) -> std::string {
+       options.progress = false;
+       return "";
+     }},
+    {"-h", "--help", "", "show this help",
+     [](const std::string&, Options& options) -> std::string {
+       options.command = Command::Help;
+       return "";
+     }},
+    {"-V", "--version", "", "show the version",
+     [](const std::string&, Options& options) -> std::string {
+       options.command = Command::Version;
+       return "";
+     }},
+};
+
+// The option that \p arg names, and its argument when glued to it
+// ("-j4", "--jobs=4").
+const OptionSpec* Find(const std::string& arg, std::string& glued, bool& hasGlued) {
+  hasGlued = false;
+  for (const OptionSpec& spec : kOptions) {
+    std::string longName = spec.longName;
+    std::string shortName = spec.shortName;
+    if (arg == longName || (!shortName.empty() && arg == shortName)) return &spec;
+    if (*spec.argument) {
+      if (arg.rfind(longName + "=", 0) == 0) {
+        glued = arg.substr(longName.size() + 1);
+        hasGlued = true;
+        return &spec;
+      }
+      if (!shortName.empty() && arg.size() > shortName.size() && arg.rfind(shortName, 0) == 0) {
+        glued = arg.substr(shortName.size());
+        hasGlued = true;
+        return &spec;
+      }
+    }
+  }
+  return nullptr;
+}
+
+}  // namespace
+
+std::string ParseArguments(const std::vector<std::string>& args, Options& options) {
+  bool optionsDone = false;
+  for (std::size_t i = 0; i < args.size(); ++i) {
+    const std::string& arg = args[i];
+    if (!optionsDone && arg == "--") {
+      optionsDone = true;
+      continue;
+    }
+    if (optionsDone || arg.size() < 2 || arg[0] != '-') {
+      options.files.push_back(arg);
+      continue;
+    }
+    std::string argument;
+    bool glued = false;
+    const OptionSpec* spec = Find(arg, argument, glued);
+    if (!spec) return "unknown option " + arg;
+    if (*spec->argument && !glued) {
+      if (i + 1 >= args.size()) return std::string(spec->longName) + " needs " + spec->argument;
+      argument = args[++i];
+    }
+    std::string error = spec->apply(argument, options);
+    if (!error.empty()) return error;
+    if (options.command == Command::Help || options.command == Command::Version) return "";
+  }
+  if (options.files.empty()) return "no input file";
+  return "";
+}
+
+void PrintUsage(std::FILE* out) {
+  std::fputs(
+      "usage: quillmesh [options] FILE.s2k...\n"
+      "Converts SAP2000 V8 text models (.s2k) into TVT files written beside them.\n"
+      "\n"
+      "options:\n",
+      out);
+  for (const OptionSpec& spec : kOptions) {
+    std::string names = *spec.shortName ? std::string(spec.shortName) + ", " + spec.longName : spec.longName;
+    if (*spec.argument) names += std::string(" ") + spec.argument;
+    std::fprintf(out, "  %-22s %s\n", names.c_str(), spec.help);
+  }
+  std::fputs(
+      "\n"
+      "Messages go to stderr as they come, each file's together and led by its name\n"
+      "when there are several; the path of each TVT file to stdout.\n"
+      "Ctrl-C or Esc stops the conversions.\n"
+      "exit status: the worst of the files: 0 finished, 1 stopped, 2 failed; 64 usage error\n",
+      out);
+}
+
+}  // namespace cli
