@@ -31,3 +31,10 @@ install(FILES ${CMAKE_BINARY_DIR}/generated/quillmesh.pc DESTINATION ${CMAKE_INS
 
 configure_file(${CMAKE_SOURCE_DIR}/man/quillmesh.1 ${CMAKE_BINARY_DIR}/generated/quillmesh.1 @ONLY)
 install(FILES ${CMAKE_BINARY_DIR}/generated/quillmesh.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+
+# The desktop front end stands beside the library, where it is looked for.
+if(TARGET quillmesh_gtk)
+  install(TARGETS quillmesh_gtk LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
+  set_target_properties(quillmesh_gui PROPERTIES INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")
+  install(TARGETS quillmesh_gui RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+endif()
