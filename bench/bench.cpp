@@ -2,9 +2,16 @@
 // size (joints, frames, areas, sections, materials, restraints, offsets,
 // releases, springs, masses, local axes, diaphragms, static loads), converts each in a
 // child process through ConvertPath with a silent user interface, and
-// prints time, peak memory and rows per second.
+// prints time, peak memory and rows per second, beside the time `wc -w`
+// takes to read the same file and the ratio of the two, so that the figure
+// holds on any machine.
 //
-//   quillmesh_bench [largest joint count, default 200000] [model name, default all]
+//   quillmesh_bench [largest joint count, default 200000] [model name] [folder]
+//
+// With a model name ("elements", "full", "supports" or "bridge"; "all" for
+// every one) only that model runs; with a folder, the models are written
+// there and kept, for a profiler.
+#include <fcntl.h>
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -349,13 +356,36 @@ Result ConvertInChild(const std::filesystem::path& path) {
   return result;
 }
 
+// Seconds that `wc -w` takes to read \p path, the best of three.
+double WordCountSeconds(const std::filesystem::path& path) {
+  double best = 0;
+  for (int run = 0; run < 3; ++run) {
+    auto start = std::chrono::steady_clock::now();
+    pid_t pid = fork();
+    if (pid == 0) {
+      int null = open("/dev/null", O_WRONLY);
+      if (null >= 0) dup2(null, 1);
+      execlp("wc", "wc", "-w", path.c_str(), static_cast<char*>(nullptr));
+      _exit(127);
+    }
+    int status = 0;
+    waitpid(pid, &status, 0);
+    if (!WIFEXITED(status) || WEXITSTATUS(status) != 0) return 0;
+    double seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+    if (run == 0 || seconds < best) best = seconds;
+  }
+  return best;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
   int largest = argc > 1 ? std::atoi(argv[1]) : 200000;
   if (largest < 20) largest = 20;
+  const std::string only = argc > 2 && std::string(argv[2]) != "all" ? argv[2] : "";
+  const bool keep = argc > 3;
   namespace fs = std::filesystem;
-  fs::path folder = fs::temp_directory_path() / ("quillmesh-bench-" + std::to_string(getpid()));
+  fs::path folder = keep ? fs::path(argv[3]) : fs::temp_directory_path() / ("quillmesh-bench-" + std::to_string(getpid()));
   fs::create_directories(folder);
 
   std::vector<int> sizes;
@@ -377,26 +407,29 @@ int main(int argc, char** argv) {
       {"full", Kind::Full, true},          {"supports", Kind::Supports, true}, {"bridge", Kind::Bridge, true},
       {"loads", Kind::Loads, false},       {"loads", Kind::Loads, true},
   };
-  std::printf("%-9s %-9s %9s %10s %10s %8s %9s %12s %8s %5s\n", "model", "names", "joints", "rows", "mass rows",
-              "file MB", "seconds", "rows/second", "peak MB", "code");
-  const std::string only = argc > 2 ? argv[2] : "";
+  std::printf("%-9s %-9s %9s %10s %10s %8s %9s %12s %8s %8s %6s %9s %5s\n", "model", "names", "joints", "rows",
+              "mass rows", "file MB", "seconds", "rows/second", "peak MB", "wc -w s", "ratio", "peak/file", "code");
   for (const Scenario& scenario : scenarios) {
     if (!only.empty() && only != scenario.name) continue;
     for (int n : sizes) {
-      fs::path path = folder / "model.s2k";
+      fs::path path = folder / (keep ? std::string(scenario.name) + "-" + (scenario.named ? "renumber" : "numeric") + "-" +
+                                           std::to_string(n) + ".s2k"
+                                     : std::string("model.s2k"));
       Model model = scenario.kind == Kind::Supports ? WriteSupportsModel(path, n)
                     : scenario.kind == Kind::Bridge   ? WriteBridgeModel(path, n / 2)
                                                       : WriteModel(path, n, scenario.named, scenario.kind == Kind::Full,
                                                                    scenario.kind == Kind::Loads);
       double megabytes = static_cast<double>(fs::file_size(path)) / (1024.0 * 1024.0);
       Result result = ConvertInChild(path);
-      std::printf("%-9s %-9s %9d %10ld %10ld %8.1f %9.3f %12.0f %8ld %5d\n", scenario.name,
+      double wordCount = WordCountSeconds(path);
+      std::printf("%-9s %-9s %9d %10ld %10ld %8.1f %9.3f %12.0f %8ld %8.3f %6.2f %9.2f %5d\n", scenario.name,
                   scenario.named ? "renumber" : "numeric", n, model.rows, model.massRows, megabytes, result.seconds,
                   result.seconds > 0 ? static_cast<double>(model.rows) / result.seconds : 0.0, result.peakKb / 1024,
-                  result.code);
+                  wordCount, wordCount > 0 ? result.seconds / wordCount : 0.0,
+                  megabytes > 0 ? static_cast<double>(result.peakKb) / 1024.0 / megabytes : 0.0, result.code);
       std::fflush(stdout);
     }
   }
-  fs::remove_all(folder);
+  if (!keep) fs::remove_all(folder);
   return 0;
 }

@@ -40,30 +40,40 @@ constexpr S2kField<Row> FlagKey(std::string_view key, int Row::*field) {
 /// Reads one key into its field: item 0 of the list when the key is there
 /// and the list isn't empty; otherwise the field keeps what it had.
 template <class Row>
-void ReadField(const std::string& rowText, const S2kField<Row>& field, Row& row) {
-  if (field.Kind == S2kFieldKind::Number || field.Kind == S2kFieldKind::Integer) {
-    std::vector<double> list;
-    if (ReadNumberList(rowText, field.Key, list) && !list.empty()) {
-      if (field.Kind == S2kFieldKind::Number)
-        row.*field.Number = list[0];
-      else
-        row.*field.Integer = TruncateToInt(list[0]);
+void ReadField(const S2kRowText& rowText, const S2kField<Row>& field, Row& row) {
+  switch (field.Kind) {
+    case S2kFieldKind::Number:
+    case S2kFieldKind::Integer: {
+      double value = 0;
+      if (ReadFirstNumber(rowText, field.Key, value)) {
+        if (field.Kind == S2kFieldKind::Number)
+          row.*field.Number = value;
+        else
+          row.*field.Integer = TruncateToInt(value);
+      }
+      return;
     }
-    return;
+    case S2kFieldKind::Text:
+      ReadFirstText(rowText, field.Key, row.*field.Text);
+      return;
+    case S2kFieldKind::Flag: {
+      std::string value;
+      if (ReadFirstText(rowText, field.Key, value)) row.*field.Integer = IsYes(value);
+      return;
+    }
   }
-  std::vector<std::string> list;
-  if (ReadStringList(rowText, field.Key, list) && !list.empty()) {
-    if (field.Kind == S2kFieldKind::Text)
-      row.*field.Text = list[0];
-    else
-      row.*field.Integer = IsYes(list[0]);
-  }
+}
+
+template <class Row>
+void ReadField(const std::string& rowText, const S2kField<Row>& field, Row& row) {
+  ReadField(S2kRowText(rowText), field, row);
 }
 
 /// Reads every key of \p fields, in their order, into \p row.
 template <class Row, std::size_t N>
 void ReadFields(const std::string& rowText, const S2kField<Row> (&fields)[N], Row& row) {
-  for (const S2kField<Row>& field : fields) ReadField(rowText, field, row);
+  const S2kRowText text(rowText);
+  for (const S2kField<Row>& field : fields) ReadField(text, field, row);
 }
 
 /// The row parser of every plain table: row i (from 0) goes under key i + 1,

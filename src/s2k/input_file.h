@@ -29,6 +29,7 @@ class S2kInputFile {
   bool Fill();
 
   static constexpr std::size_t kMaxRead = 499;
+  static constexpr std::size_t kBufferSize = 1 << 16;
   std::FILE* file_ = nullptr;
   std::string raw_;
   std::string buffer_;

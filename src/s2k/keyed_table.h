@@ -21,24 +21,32 @@ class CKeyedTable {
   /// Inserts or overwrites; an overwritten key keeps its place. \returns 1.
   template <class R>
   int SetAt(int key, R&& rec) {
-    auto [it, added] = index_.try_emplace(key, entries_.size());
-    if (added) {
-      entries_.emplace_back(key, std::forward<R>(rec));
-      walkValid_ = false;
+    if (std::size_t at = Find(key); at != kAbsent) {
+      entries_[at].second = std::forward<R>(rec);
+      return 1;
+    }
+    std::size_t at = entries_.size();
+    entries_.emplace_back(key, std::forward<R>(rec));
+    walkValid_ = false;
+    // Keys that are row positions (1, 2, 3 ...) go to the dense index, as
+    // long as it stays within twice the entries; the rest to the hash.
+    if (key >= 0 && static_cast<std::size_t>(key) < 2 * entries_.size() + kDenseSlack) {
+      if (static_cast<std::size_t>(key) >= dense_.size()) dense_.resize(static_cast<std::size_t>(key) + 1, kNone);
+      dense_[static_cast<std::size_t>(key)] = static_cast<std::uint32_t>(at);
     } else {
-      entries_[it->second].second = std::forward<R>(rec);
+      sparse_.emplace(key, at);
     }
     return 1;
   }
 
   /// \returns the record of \p key, or nullptr.
   const Rec* Lookup(int key) const {
-    auto it = index_.find(key);
-    return it == index_.end() ? nullptr : &entries_[it->second].second;
+    std::size_t at = Find(key);
+    return at == kAbsent ? nullptr : &entries_[at].second;
   }
   Rec* Lookup(int key) {
-    auto it = index_.find(key);
-    return it == index_.end() ? nullptr : &entries_[it->second].second;
+    std::size_t at = Find(key);
+    return at == kAbsent ? nullptr : &entries_[at].second;
   }
   bool Lookup(int key, Rec& out) const {
     const Rec* rec = Lookup(key);
@@ -76,6 +84,19 @@ class CKeyedTable {
   }
 
  private:
+  static constexpr std::uint32_t kNone = 0xffffffffu;
+  static constexpr std::size_t kAbsent = static_cast<std::size_t>(-1);
+  static constexpr std::size_t kDenseSlack = 64;
+
+  // The place of \p key in entries_, or kAbsent.
+  std::size_t Find(int key) const {
+    if (key >= 0 && static_cast<std::size_t>(key) < dense_.size() && dense_[static_cast<std::size_t>(key)] != kNone)
+      return dense_[static_cast<std::size_t>(key)];
+    if (sparse_.empty()) return kAbsent;
+    auto it = sparse_.find(key);
+    return it == sparse_.end() ? kAbsent : it->second;
+  }
+
   std::uint32_t Bucket(int key) const {
     return (static_cast<std::uint32_t>(key) >> 4) % static_cast<std::uint32_t>(size_);
   }
@@ -94,7 +115,8 @@ class CKeyedTable {
 
   int size_ = 17;
   std::deque<std::pair<int, Rec>> entries_;
-  std::unordered_map<int, std::size_t> index_;
+  std::vector<std::uint32_t> dense_;
+  std::unordered_map<int, std::size_t> sparse_;
   mutable std::vector<std::size_t> walk_;
   mutable bool walkValid_ = false;
 };

@@ -8,7 +8,8 @@
 
 namespace {
 
-bool IsSpace(char c) { return std::isspace(static_cast<unsigned char>(c)) != 0; }
+// White space as the "C" locale has it.
+bool IsSpace(char c) { return c == ' ' || (c >= '\t' && c <= '\r'); }
 
 void TrimRight(std::string& text) {
   std::size_t end = text.size();
@@ -16,27 +17,54 @@ void TrimRight(std::string& text) {
   text.resize(end);
 }
 
-// The value of a key: behind it, cut at the last blank before the next '='.
-bool FindValue(const std::string& rowText, std::string_view key, std::string& value) {
-  std::size_t at = rowText.find(key);
-  if (at == std::string::npos) return false;
-  std::string_view rest = std::string_view(rowText).substr(at + key.size());
+// The value text of a key, as it stands in the row: behind the key, cut at
+// the last blank before the next '=', its end trimmed. Quotes and tabs are
+// still in it.
+bool FindRawValue(const S2kRowText& row, std::string_view key, std::string_view& rest) {
+  std::size_t at = row.Find(key);
+  if (at == std::string_view::npos) return false;
+  rest = row.Text().substr(at + key.size());
   std::size_t eq = rest.find('=');
-  if (eq != std::string_view::npos) {
-    for (std::size_t s = eq; s >= 1; --s) {
-      if (rest[s] == ' ') {
-        rest = rest.substr(0, s + 1);
-        break;
-      }
-    }
+  if (eq != std::string_view::npos && eq >= 1) {
+    std::size_t blank = rest.substr(1, eq).rfind(' ');
+    if (blank != std::string_view::npos) rest = rest.substr(0, blank + 2);
   }
   while (!rest.empty() && IsSpace(rest.back())) rest.remove_suffix(1);
+  return true;
+}
+
+bool HasQuoteOrTab(std::string_view text) {
+  for (char c : text)
+    if (c == '"' || c == '\t') return true;
+  return false;
+}
+
+// The value text with its quotes gone and its tabs made blanks.
+void CleanValue(std::string_view raw, std::string& value) {
+  if (!HasQuoteOrTab(raw)) {
+    value.assign(raw);
+    return;
+  }
   value.clear();
-  for (char c : rest) {
+  for (char c : raw) {
     if (c == '"') continue;
     value.push_back(c == '\t' ? ' ' : c);
   }
+}
+
+bool FindValue(const S2kRowText& row, std::string_view key, std::string& value) {
+  std::string_view raw;
+  if (!FindRawValue(row, key, raw)) return false;
+  CleanValue(raw, value);
   return true;
+}
+
+// Item 0 of a comma list: the text before the first comma, without blanks.
+void KeepFirstItem(std::string& value) {
+  std::size_t comma = value.find(',');
+  if (comma == std::string::npos) return;
+  value.resize(comma);
+  std::erase(value, ' ');
 }
 
 // Comma lists lose every blank and split at each comma, keeping empty pieces.
@@ -65,22 +93,42 @@ bool StartsWith(std::string_view text, std::string_view prefix) {
   return text.substr(0, prefix.size()) == prefix;
 }
 
-int TrimRowLine(std::string& line) {
+int TrimRowLine(std::string_view& line) {
   std::size_t begin = 0;
   while (begin < line.size() && IsSpace(line[begin])) ++begin;
-  line.erase(0, begin);
-  std::size_t mark = line.find(" _");
-  if (mark != std::string::npos) {
-    line.resize(mark);
-    return 1;
+  line.remove_prefix(begin);
+  // The first " _" is the first '_' with a blank before it.
+  for (std::size_t at = 1; at < line.size(); ++at) {
+    const void* mark = std::memchr(line.data() + at, '_', line.size() - at);
+    if (!mark) break;
+    at = static_cast<std::size_t>(static_cast<const char*>(mark) - line.data());
+    if (line[at - 1] == ' ') {
+      line = line.substr(0, at - 1);
+      return 1;
+    }
   }
-  TrimRight(line);
+  while (!line.empty() && IsSpace(line.back())) line.remove_suffix(1);
   return 0;
+}
+
+int TrimRowLine(std::string& line) {
+  std::string_view piece = line;
+  int goesOn = TrimRowLine(piece);
+  line = std::string(piece);
+  return goesOn;
+}
+
+int ReadFirstText(const std::string& rowText, std::string_view key, std::string& item) {
+  return ReadFirstText(S2kRowText(rowText), key, item);
+}
+
+int ReadFirstNumber(const std::string& rowText, std::string_view key, double& item) {
+  return ReadFirstNumber(S2kRowText(rowText), key, item);
 }
 
 int ReadStringList(const std::string& rowText, std::string_view key, std::vector<std::string>& list) {
   std::string value;
-  if (!FindValue(rowText, key, value)) return 0;
+  if (!FindValue(S2kRowText(rowText), key, value)) return 0;
   if (value.find(',') == std::string::npos)
     list.push_back(std::move(value));
   else
@@ -90,11 +138,62 @@ int ReadStringList(const std::string& rowText, std::string_view key, std::vector
 
 int ReadNumberList(const std::string& rowText, std::string_view key, std::vector<double>& list) {
   std::string value;
-  if (!FindValue(rowText, key, value)) return 0;
+  if (!FindValue(S2kRowText(rowText), key, value)) return 0;
   if (value.find(',') == std::string::npos)
     list.push_back(ParseDouble(value));
   else
     SplitCommaList(value, [&](const std::string& piece) { list.push_back(EvaluateExpression(piece)); });
+  return 1;
+}
+
+S2kRowText::S2kRowText(std::string_view text) : text_(text) {
+  for (std::size_t at = 0; at < text.size(); ++at) {
+    const void* eq = std::memchr(text.data() + at, '=', text.size() - at);
+    if (!eq) break;
+    if (count_ == kMaxEquals) {
+      overflow_ = true;
+      break;
+    }
+    at = static_cast<std::size_t>(static_cast<const char*>(eq) - text.data());
+    equals_[count_++] = static_cast<std::uint32_t>(at);
+  }
+}
+
+// Every occurrence of a key ends at one of the row's '=', so the first '='
+// with the key's other characters before it marks the first occurrence.
+std::size_t S2kRowText::Find(std::string_view key) const {
+  if (overflow_ || key.empty() || key.back() != '=' || text_.size() > 0xffffffffu) return text_.find(key);
+  const std::size_t head = key.size() - 1;
+  const char last = head ? key[head - 1] : '\0';
+  for (std::size_t i = 0; i < count_; ++i) {
+    std::size_t eq = equals_[i];
+    if (eq < head || (head && text_[eq - 1] != last)) continue;
+    if (std::memcmp(text_.data() + eq - head, key.data(), head) == 0) return eq - head;
+  }
+  return std::string_view::npos;
+}
+
+int ReadFirstText(const S2kRowText& row, std::string_view key, std::string& item) {
+  if (!FindValue(row, key, item)) return 0;
+  KeepFirstItem(item);
+  return 1;
+}
+
+int ReadFirstNumber(const S2kRowText& row, std::string_view key, double& item) {
+  std::string_view raw;
+  if (!FindRawValue(row, key, raw)) return 0;
+  if (raw.find(',') == std::string_view::npos && !HasQuoteOrTab(raw)) {
+    item = ParseDouble(raw);
+    return 1;
+  }
+  std::string value;
+  CleanValue(raw, value);
+  if (value.find(',') == std::string::npos) {
+    item = ParseDouble(value);
+  } else {
+    KeepFirstItem(value);
+    item = EvaluateExpression(value);
+  }
   return 1;
 }
 

@@ -1,6 +1,7 @@
 // Reading rows: the continuation mark, key values as texts or numbers.
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -8,11 +9,36 @@
 /// Trims \p line; cuts it at the first " _" anywhere. \returns 1 when the
 /// row goes on in the next line.
 int TrimRowLine(std::string& line);
+/// The same on a view of the line.
+int TrimRowLine(std::string_view& line);
 
 /// Appends the values of the first occurrence of \p key (a plain substring,
 /// "=" included) to \p list. \returns 0, list untouched, when it is absent.
 int ReadStringList(const std::string& rowText, std::string_view key, std::vector<std::string>& list);
 int ReadNumberList(const std::string& rowText, std::string_view key, std::vector<double>& list);
+
+/// A row read for many keys: the places of its '=' are found once.
+class S2kRowText {
+ public:
+  explicit S2kRowText(std::string_view text);
+  std::string_view Text() const { return text_; }
+  /// Where \p key first stands in the row, as a plain substring search finds it.
+  std::size_t Find(std::string_view key) const;
+
+ private:
+  static constexpr std::size_t kMaxEquals = 64;
+  std::string_view text_;
+  std::uint32_t equals_[kMaxEquals];
+  std::size_t count_ = 0;
+  bool overflow_ = false;  // more '=' than places: plain search
+};
+
+/// Item 0 of what ReadStringList and ReadNumberList would append, without
+/// making the list. \returns 0, item untouched, when the key is absent.
+int ReadFirstText(const S2kRowText& row, std::string_view key, std::string& item);
+int ReadFirstNumber(const S2kRowText& row, std::string_view key, double& item);
+int ReadFirstText(const std::string& rowText, std::string_view key, std::string& item);
+int ReadFirstNumber(const std::string& rowText, std::string_view key, double& item);
 
 /// One comma-list item: + - * / strictly from left to right.
 double EvaluateExpression(const std::string& text);

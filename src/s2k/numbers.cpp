@@ -2,6 +2,7 @@
 #include "s2k/numbers.h"
 
 #include <cctype>
+#include <charconv>
 #include <cmath>
 #include <cstdlib>
 #include <string>
@@ -26,7 +27,13 @@ double ParseDouble(std::string_view text) {
     while (j < n && std::isdigit(static_cast<unsigned char>(text[j]))) ++j, ++expDigits;
     if (expDigits > 0) end = j;
   }
-  // The prefix is plain decimal, so strtod reads exactly it.
+  // The prefix is plain decimal, so both readers read exactly it and round it
+  // the same way; strtod only where from_chars declines (out of range).
+  const char* first = text.data() + start;
+  if (*first == '+') ++first;
+  double value = 0;
+  auto [stop, error] = std::from_chars(first, text.data() + end, value);
+  if (error == std::errc() && stop == text.data() + end) return value;
   std::string prefix(text.substr(start, end - start));
   return std::strtod(prefix.c_str(), nullptr);
 }

@@ -25,12 +25,12 @@ int CS2kConverter::ReadTables() {
   rowLines.clear();
   rowRows.clear();
   ui_.SetStage(1);
-  std::string line;
+  std::string line, titleLine, rowText;
   int lineCounter = 0;
   int shortRun = 0;
   for (;;) {
     bool fresh = inputFile.ReadLine(line);
-    std::string titleLine = line;
+    titleLine = line;
     UpperCase(titleLine);
     if (titleLine.size() < 5) {
       if (++shortRun > 10) return 0;
@@ -51,7 +51,6 @@ int CS2kConverter::ReadTables() {
       continue;
     }
     if (StartsWith(titleLine, "TABLE")) {
-      std::string rowText;
       int tableId = 0;
       bool newTitle = true;
       for (;;) {
@@ -61,25 +60,27 @@ int CS2kConverter::ReadTables() {
           rowRows.clear();
           newTitle = false;
         }
+        // The line itself stays as read: at the end of the file it is seen again.
         inputFile.ReadLine(line);
-        std::string bodyLine = line;
-        if (bodyLine.size() < 3) break;
+        if (line.size() < 3) break;
         if (!ui_.Advance(lineCounter)) return 1;
         ++lineCounter;
-        if (StartsWith(bodyLine, "END") || StartsWith(bodyLine, "FILE")) break;
-        if (StartsWith(bodyLine, "TABLE")) {
+        if (StartsWith(line, "END") || StartsWith(line, "FILE")) break;
+        if (StartsWith(line, "TABLE")) {
           newTitle = true;  // the old title stands
           continue;
         }
         if (tableId < 1) continue;
-        int goesOn = TrimRowLine(bodyLine);
-        rowText += bodyLine;
+        std::string_view piece = line;
+        int goesOn = TrimRowLine(piece);
+        rowText += piece;
         if (goesOn) continue;
-        rowRows.push_back(std::move(rowText));
+        rowRows.emplace_back(rowText);
         rowText.clear();
         rowLines.push_back(lineCounter);
       }
       if (tableId >= 1 && !ParseTable(tableId)) return -1;
+      rowRows.clear();  // parsed: the texts are no longer needed
       continue;
     }
     if (IsOlderLayout(titleLine) || lineCounter > 3) {

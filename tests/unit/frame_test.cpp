@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "quillmesh/quillmesh.hpp"
+#include "s2k/input_file.h"
 #include "test_support.h"
 
 namespace fs = std::filesystem;
@@ -103,6 +104,41 @@ TEST(Progress, FollowsTheStagesLinesAndSteps) {
   for (int step = 1; step <= 37; ++step) want.push_back("advance " + std::to_string(step));
   want.push_back("close");
   EXPECT_EQ(want, ui.progress);
+}
+
+TEST(Progress, CountsReadsOfAtMost499Characters) {
+  const std::string x499(499, 'x'), x498(498, 'x');
+  struct Case {
+    const char* name;
+    std::string text;
+    int reads;
+  };
+  for (const Case& c : {
+           Case{"empty", "", 0},
+           Case{"one line", "a\n", 1},
+           Case{"no newline at the end", "a\nb", 2},
+           Case{"empty lines", "\n\n\n", 3},
+           Case{"498 and a newline", x498 + "\n", 1},
+           Case{"499 and a newline", x499 + "\n", 2},
+           Case{"498 and CR LF", x498 + "\r\n", 1},
+           Case{"499 and CR LF", x499 + "\r\n", 2},
+           Case{"CR alone is a character", x498 + "\rx\n", 2},
+           Case{"CR only", "a\rb\rc\r", 1},
+           Case{"CR at the end", "a\r", 1},
+           Case{"1000 without newline", std::string(1000, 'x'), 3},
+           Case{"zero bytes count", std::string("\0\0\n\0", 4), 2},
+           Case{"CR LF across the buffer", std::string(65535, '\n') + "\r\nx", 65537},
+       }) {
+    TempFolder folder;
+    WriteFile(folder / "model.s2k", c.text);
+    const std::string path = (folder / "model.s2k").string();
+    EXPECT_EQ(c.reads, S2kInputFile::CountLines(path)) << c.name;
+    S2kInputFile file;
+    ASSERT_TRUE(file.Open(path));
+    int reads = 0;
+    for (std::string line; file.ReadLine(line);) ++reads;
+    EXPECT_EQ(c.reads, reads) << c.name;
+  }
 }
 
 TEST(Progress, AStopClosesTheWindowAtOnce) {

@@ -91,6 +91,46 @@ TEST(ReadNumberList, ReadsOneNumberOrEvaluatesEachItemOfAList) {
   }
 }
 
+TEST(ReadFirstItem, GivesItemZeroOfTheListOrLeavesTheItemAlone) {
+  struct Case {
+    std::string row, key;
+    int found;
+    std::string text;
+    double number;
+  };
+  for (const Case& c : {
+           Case{"Joint=1   CoordSys=GLOBAL", "CoordSys=", 1, "GLOBAL", 0},
+           Case{"X=1.5   Y=2", "X=", 1, "1.5", 1.5},
+           Case{"U1U2=5   U2=7", "U2=", 1, "5", 5},
+           Case{"Name=\"A B\"  Type=C", "Name=", 1, "A B", 0},
+           Case{"X=\"7\"", "X=", 1, "7", 7},
+           Case{"X=1\tY=2", "X=", 1, "1 Y=2", 1},
+           Case{"X=1+2, 2*3", "X=", 1, "1+2", 3},
+           Case{"X= 4 , 5", "X=", 1, "4", 4},
+           Case{"X=,5", "X=", 1, "", 0},
+           Case{"CurrUnits=\"KN, m, C\"   X=1", "CurrUnits=", 1, "KN", 0},
+           Case{"A=  B=3", "A=", 1, "", 0},
+           Case{"A= B=3", "A=", 1, " B=3", 0},
+           Case{"X=-0", "X=", 1, "-0", -0.0},
+           Case{"Y=4", "X=", 0, "kept", -1},
+       }) {
+    std::string text = "kept";
+    double number = -1;
+    EXPECT_EQ(c.found, ReadFirstText(c.row, c.key, text)) << c.row;
+    EXPECT_EQ(c.found, ReadFirstNumber(c.row, c.key, number)) << c.row;
+    EXPECT_EQ(c.text, text) << c.row;
+    EXPECT_EQ(c.number, number) << c.row;
+    EXPECT_EQ(std::signbit(c.number), std::signbit(number)) << c.row;
+    // The same as the lists' first items.
+    Texts texts;
+    std::vector<double> numbers;
+    if (ReadStringList(c.row, c.key, texts) && ReadNumberList(c.row, c.key, numbers)) {
+      EXPECT_EQ(texts[0], text) << c.row;
+      EXPECT_EQ(numbers[0], number) << c.row;
+    }
+  }
+}
+
 TEST(EvaluateExpression, RunsLeftToRightWithoutPrecedence) {
   struct Case {
     std::string in;
@@ -128,7 +168,9 @@ TEST(ParseDouble, ReadsTheLongestDecimalPrefixOnly) {
            Case{"  \t7", 7},     Case{"8kN", 8},      Case{"9.5.1", 9.5},  Case{"", 0},
            Case{"abc", 0},       Case{"-", 0},        Case{".", 0},        Case{"inf", 0},
            Case{"-infinity", 0}, Case{"nan", 0},      Case{"0x1A", 0},     Case{"1e400", inf},
-           Case{"-1e400", -inf}, Case{"1e-400", 0},
+           Case{"-1e400", -inf}, Case{"1e-400", 0},  Case{"4.9e-324", 4.9e-324},
+           Case{"1" + std::string(399, '0'), inf},     Case{"0." + std::string(398, '0') + "1", 0},
+           Case{"0.1000000000000000055511151231257827", 0.1},  Case{"9007199254740993", 9007199254740992.0},
        }) {
     EXPECT_EQ(c.want, ParseDouble(c.in)) << c.in;
   }

@@ -61,6 +61,27 @@ TEST(KeyedTable, OverwritesInPlaceAndLooksUp) {
   EXPECT_EQ((std::vector<int>{1, 2, 3}), keyOrder);
 }
 
+TEST(KeyedTable, FindsKeysFarApartNegativeOrHuge) {
+  CKeyedTable<int> table;
+  table.Reset(17);
+  const int keys[] = {1000000, 1, -5, 2, 3000, 2147483647, 0, -2147483647 - 1, 4, 70};
+  for (int key : keys) table.SetAt(key, key / 2);
+  table.SetAt(3000, 7);  // overwritten in place
+  table.SetAt(1000000, 8);
+  EXPECT_EQ(10, table.Count());
+  for (int key : keys) {
+    int got = -1;
+    EXPECT_TRUE(table.Lookup(key, got)) << key;
+    EXPECT_EQ(key == 3000 ? 7 : key == 1000000 ? 8 : key / 2, got) << key;
+  }
+  for (int absent : {3, 5, 69, 71, 999999, -4, 2147483646}) EXPECT_EQ(nullptr, table.Lookup(absent)) << absent;
+  // Buckets of 17: 0 to 15 in bucket 0, 3000 in 187 % 17 = 0, 70 in 4,
+  // 1000000 in 62500 % 17 = 8; the others by their unsigned value shifted:
+  // 0x07FFFFFF % 17 = 7, 0x08000000 % 17 = 8, 0x0FFFFFFF % 17 = 15 for -5.
+  // The newest of a bucket comes first.
+  EXPECT_EQ((std::vector<int>{4, 0, 3000, 2, 1, 70, 2147483647, -2147483647 - 1, 1000000, -5}), table.WalkKeys());
+}
+
 TEST(Recognition, FirstWordAtColumnNineThenTheFirstMemberWordAnywhere) {
   RecordingUserInterface ui;
   CS2kConverter engine(ui);
