@@ -15,35 +15,6 @@
 namespace cli {
 namespace {
 
-// The terminal's interface, that also keeps each message for the report;
-// in a parallel batch it holds the lines back until the file is done.
-class FileUserInterface : public quillmesh::TerminalUserInterface {
- public:
-  FileUserInterface(quillmesh::TerminalOptions options, FileResult& result, bool live)
-      : TerminalUserInterface(std::move(options)), result_(result), live_(live) {}
-
-  void ShowMessage(const std::string& text, const std::string& key) override {
-    result_.messages.push_back({key, text, "", false});
-    TerminalUserInterface::ShowMessage(text, key);
-  }
-  void ShowFormattedMessage(const std::string& text, const std::string& key, const std::string& argument) override {
-    result_.messages.push_back({key, text, argument, true});
-    TerminalUserInterface::ShowMessage(text, key);
-  }
-
- protected:
-  void WriteLine(const std::string& line) override {
-    if (live_)
-      TerminalUserInterface::WriteLine(line);
-    else
-      result_.printed += line + "\n";
-  }
-
- private:
-  FileResult& result_;
-  bool live_;
-};
-
 std::atomic<bool> userStopped{false};
 
 void ConvertOne(const Options& options, bool prefix, bool live, FileResult& result) {
@@ -52,7 +23,7 @@ void ConvertOne(const Options& options, bool prefix, bool live, FileResult& resu
   terminal.messageKeys = options.messageKeys;
   terminal.progress = options.progress && live;
   if (prefix) terminal.messagePrefix = result.input + ": ";
-  FileUserInterface ui(terminal, result, live);
+  MessageKeepingInterface ui(terminal, result, live);
   result.ran = true;
   result.code = quillmesh::ConvertPath(result.input, ui);
   result.stopReason = ui.StopReason();

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "options.h"
+#include "quillmesh/terminal.hpp"
 
 namespace cli {
 
@@ -27,6 +28,35 @@ struct FileResult {
   std::string stopReason; ///< the front end's words for a stop
   std::vector<MessageRecord> messages;
   std::string printed;    ///< its message lines, for a batch run in parallel
+};
+
+// The terminal's interface, that also keeps each message for the report;
+// in a parallel batch it holds the lines back until the file is done.
+class MessageKeepingInterface : public quillmesh::TerminalUserInterface {
+ public:
+  MessageKeepingInterface(quillmesh::TerminalOptions options, FileResult& result, bool live)
+      : TerminalUserInterface(std::move(options)), result_(result), live_(live) {}
+
+  void ShowMessage(const std::string& text, const std::string& key) override {
+    result_.messages.push_back({key, text, "", false});
+    TerminalUserInterface::ShowMessage(text, key);
+  }
+  void ShowFormattedMessage(const std::string& text, const std::string& key, const std::string& argument) override {
+    result_.messages.push_back({key, text, argument, true});
+    TerminalUserInterface::ShowMessage(text, key);
+  }
+
+ protected:
+  void WriteLine(const std::string& line) override {
+    if (live_)
+      TerminalUserInterface::WriteLine(line);
+    else
+      result_.printed += line + "\n";
+  }
+
+ private:
+  FileResult& result_;
+  bool live_;
 };
 
 /// The exit status of a file: 0 finished, 1 stopped, 2 failed.

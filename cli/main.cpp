@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "batch.h"
+#include "inspect.h"
 #include "options.h"
 #include "report.h"
 #include "quillmesh/quillmesh.hpp"
@@ -31,6 +32,8 @@ int main(int argc, char** argv) {
     case cli::Command::Version:
       std::printf("quillmesh %s\n", quillmesh::Version());
       return 0;
+    case cli::Command::Inspect:
+      return cli::InspectFile(options);
     case cli::Command::Convert:
       break;
   }

@@ -34,6 +34,11 @@ constexpr OptionSpec kOptions[] = {
        options.reportPath = path;
        return "";
      }},
+    {"", "--json", "", "inspect: print the tables as one JSON document",
+     [](const std::string&, Options& options) -> std::string {
+       options.json = true;
+       return "";
+     }},
     {"", "--message-keys", "", "print the catalogue key behind each message",
      [](const std::string&, Options& options) -> std::string {
        options.messageKeys = true;
@@ -91,7 +96,10 @@ std::string ParseArguments(const std::vector<std::string>& args, Options& option
       continue;
     }
     if (optionsDone || arg.size() < 2 || arg[0] != '-') {
-      options.files.push_back(arg);
+      if (!optionsDone && arg == "inspect" && options.files.empty() && options.command == Command::Convert)
+        options.command = Command::Inspect;
+      else
+        options.files.push_back(arg);
       continue;
     }
     std::string argument;
@@ -107,13 +115,21 @@ std::string ParseArguments(const std::vector<std::string>& args, Options& option
     if (options.command == Command::Help || options.command == Command::Version) return "";
   }
   if (options.files.empty()) return "no input file";
+  if (options.command == Command::Inspect) {
+    if (options.files.size() != 1) return "inspect takes one file";
+    if (!options.reportPath.empty() || options.jobs != 1) return "inspect takes neither --report nor -j";
+  } else if (options.json) {
+    return "--json goes with inspect";
+  }
   return "";
 }
 
 void PrintUsage(std::FILE* out) {
   std::fputs(
       "usage: quillmesh [options] FILE.s2k...\n"
-      "Converts SAP2000 V8 text models (.s2k) into TVT files written beside them.\n"
+      "       quillmesh inspect [--json] FILE.s2k\n"
+      "Converts SAP2000 V8 text models (.s2k) into TVT files written beside them;\n"
+      "inspect tells each table of a file and what a conversion makes of it, writing nothing.\n"
       "\n"
       "options:\n",
       out);

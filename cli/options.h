@@ -7,7 +7,7 @@
 
 namespace cli {
 
-enum class Command { Convert, Help, Version };
+enum class Command { Convert, Inspect, Help, Version };
 
 struct Options {
   Command command = Command::Convert;
@@ -16,6 +16,7 @@ struct Options {
   bool progress = true;
   int jobs = 1;
   std::string reportPath;  ///< empty: no report
+  bool json = false;       ///< inspect prints JSON
 };
 
 /// Reads the arguments into \p options. \returns an empty text, or what is

@@ -31,7 +31,7 @@ void CS2kConverter::ResetConversion() {
   subjects_.clear();
 }
 
-int CS2kConverter::Run(const std::string& inputPath) {
+int CS2kConverter::Run(const std::string& inputPath, int lastStage) {
   ui_.OpenProgress(S2kInputFile::CountLines(inputPath));
   if (!inputFile.Open(inputPath)) {
     ui_.ShowMessage("Cannot open input file!", "");
@@ -40,8 +40,8 @@ int CS2kConverter::Run(const std::string& inputPath) {
   ShowMessage("IDS_S2KV8_Export_must_be_executed");
   ResetConversion();
   int code = ReadTables();
-  if (code == 0) code = ConvertModel();
-  if (code == 0) code = WriteOutput(inputPath);
+  if (code == 0 && lastStage >= 2) code = ConvertModel();
+  if (code == 0 && lastStage >= 3) code = WriteOutput(inputPath);
   inputFile.Close();
   ui_.CloseProgress();
   return code;

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <cstdio>
+#include <functional>
 #include <initializer_list>
 #include <memory>
 #include <span>
@@ -18,6 +19,15 @@
 #include "s2k/fields.h"
 #include "s2k/keyed_table.h"
 
+/// A table as the reader leaves it, before its rows are parsed.
+struct S2kTableRead {
+  int line;                               ///< the title's line in the file, from 1
+  const std::string& title;               ///< the title line as read
+  int tableId;                            ///< 0 when not recognised
+  const std::vector<std::string>& rows;   ///< the rows kept, one text each
+  int unkeptRows;                         ///< the rows of a table not recognised
+};
+
 class CS2kConverter {
  public:
   explicit CS2kConverter(quillmesh::UserInterface& ui);
@@ -25,8 +35,12 @@ class CS2kConverter {
   CS2kConverter(const CS2kConverter&) = delete;
   CS2kConverter& operator=(const CS2kConverter&) = delete;
 
-  /// Reads, converts and writes. \returns 0 finished, 1 stopped, -1 failed.
-  int Run(const std::string& inputPath);
+  /// Reads, converts and writes; with \p lastStage 1 it only reads.
+  /// \returns 0 finished, 1 stopped, -1 failed.
+  int Run(const std::string& inputPath, int lastStage = 3);
+
+  /// Told of each table as its reading ends; empty in a conversion.
+  std::function<void(const S2kTableRead&)> onTableRead;
 
   /// The subject of type \p T of this run, made on first use.
   template <class T>

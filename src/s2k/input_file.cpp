@@ -12,6 +12,8 @@ bool S2kInputFile::Open(const std::string& path) {
   // A folder opens here but is no file to read.
   struct stat status {};
   if (file_ && (::fstat(fileno(file_), &status) != 0 || S_ISDIR(status.st_mode))) Close();
+  lineNumber_ = 0;
+  atLineStart_ = true;
   return file_ != nullptr;
 }
 
@@ -60,6 +62,8 @@ bool S2kInputFile::ReadLine(std::string& line) {
     break;
   }
   if (raw_.empty()) return false;
+  if (atLineStart_) ++lineNumber_;
+  atLineStart_ = raw_.back() == '\n';
   // Up to the first zero character.
   const void* zero = std::memchr(raw_.data(), '\0', raw_.size());
   line.assign(raw_.data(), zero ? static_cast<std::size_t>(static_cast<const char*>(zero) - raw_.data()) : raw_.size());

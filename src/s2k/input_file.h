@@ -22,6 +22,9 @@ class S2kInputFile {
   /// At the end of the file \returns false and leaves \p line as it was.
   bool ReadLine(std::string& line);
 
+  /// The line of the file that the last read came from, from 1.
+  int LineNumber() const { return lineNumber_; }
+
   /// Counts the reads up to the end of the file at \p path.
   static int CountLines(const std::string& path);
 
@@ -34,4 +37,6 @@ class S2kInputFile {
   std::string raw_;
   std::string buffer_;
   std::size_t pos_ = 0, len_ = 0;
+  int lineNumber_ = 0;
+  bool atLineStart_ = true;
 };

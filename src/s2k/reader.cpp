@@ -51,6 +51,9 @@ int CS2kConverter::ReadTables() {
       continue;
     }
     if (StartsWith(titleLine, "TABLE")) {
+      const int titleLineNumber = inputFile.LineNumber();
+      const std::string title = onTableRead ? line : std::string();
+      int unkeptRows = 0;
       int tableId = 0;
       bool newTitle = true;
       for (;;) {
@@ -58,6 +61,7 @@ int CS2kConverter::ReadTables() {
           tableId = RecogniseTable(titleLine);
           rowText.clear();
           rowRows.clear();
+          unkeptRows = 0;
           newTitle = false;
         }
         // The line itself stays as read: at the end of the file it is seen again.
@@ -70,8 +74,11 @@ int CS2kConverter::ReadTables() {
           newTitle = true;  // the old title stands
           continue;
         }
-        if (tableId < 1) continue;
         std::string_view piece = line;
+        if (tableId < 1) {
+          if (onTableRead && !TrimRowLine(piece)) ++unkeptRows;
+          continue;
+        }
         int goesOn = TrimRowLine(piece);
         rowText += piece;
         if (goesOn) continue;
@@ -79,6 +86,7 @@ int CS2kConverter::ReadTables() {
         rowText.clear();
         rowLines.push_back(lineCounter);
       }
+      if (onTableRead) onTableRead({titleLineNumber, title, tableId, rowRows, unkeptRows});
       if (tableId >= 1 && !ParseTable(tableId)) return -1;
       rowRows.clear();  // parsed: the texts are no longer needed
       continue;

@@ -51,7 +51,7 @@ TEST(CommandLineOptions, VersionComesFromTheProjectAndHelpListsEveryOptionThePar
     }
     for (const std::string& name : names) listed[name] = argument;
   }
-  for (const char* name : {"-j", "--jobs", "--report", "--message-keys", "--no-progress", "--help",
+  for (const char* name : {"-j", "--jobs", "--report", "--message-keys", "--no-progress", "--json", "--help",
                            "--version"})
     EXPECT_EQ(1u, listed.count(name)) << name << " is missing from the help:\n" << help.out;
   for (const auto& [name, argument] : listed) {
@@ -80,6 +80,9 @@ TEST(CommandLineOptions, WrongWordsAreUsageErrors) {
            Case{{"-j", "2x", "a.s2k"}, "-j needs a number"},
            Case{{"--report"}, "--report needs FILE.json"},
            Case{{"--report=", "a.s2k"}, "--report needs a file name"},
+           Case{{"--json", "a.s2k"}, "--json goes with inspect"},
+           Case{{"inspect", "a.s2k", "a.s2k"}, "inspect takes one file"},
+           Case{{"inspect", "-j", "2", "a.s2k"}, "inspect takes neither"},
            Case{{"-x", "a.s2k"}, "unknown option -x"},
            Case{{"-j", "2"}, "no input file"},
        }) {
