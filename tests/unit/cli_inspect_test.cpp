@@ -190,9 +190,18 @@ TEST(CommandLineInspect, BadInputEndsAsTheReadingOfAConversionEnds) {
            Case{"ends with a FILE line", "FILE a.$2k\n", 1, "ends with a FILE line"},
            Case{"binary", binary, 2, "reading failed"},
            Case{"title without rows", "TABLE:  \"JOINT COORDINATES\"\n\nEND\n", 0, "1 tables"},
+           Case{"a folder by that name", "", 2, "Cannot open input file!"},
+           Case{"CR only", "TABLE:  \"GRID LINES\"\r   GridID=A\r\rEND\r", 1, "reading was stopped"},
+           Case{"NUL bytes", std::string(1 << 16, '\0'), 0, "0 tables"},
+           Case{"a line of 1 MB", std::string(1 << 20, 'x') + "\n", 2, "reading failed"},
+           Case{"a title of 10,000 characters", "TABLE:  \"" + std::string(10000, 'A') + "\"\n   A=1\n\nEND\n", 0,
+                "not recognised"},
        }) {
     TempFolder folder;
-    if (std::string(c.name) != "absent") WriteFile(folder / "model.s2k", c.text);
+    if (std::string(c.name) == "a folder by that name")
+      fs::create_directories(folder / "model.s2k");
+    else if (std::string(c.name) != "absent")
+      WriteFile(folder / "model.s2k", c.text);
     CliRun run = RunCli({"inspect", "model.s2k"}, folder.Path(), 5);
     EXPECT_EQ(c.exitCode, run.exitCode) << c.name << "\n" << run.out << run.err;
     EXPECT_NE(std::string::npos, (run.out + run.err).find(c.says)) << c.name << "\n" << run.out << run.err;
