@@ -61,6 +61,12 @@ std::vector<FileResult> ConvertAll(const Options& options) {
   const bool prefix = results.size() > 1;
   const std::size_t workers = std::min<std::size_t>(static_cast<std::size_t>(options.jobs), results.size());
   userStopped = false;
+  // Ctrl-C and Esc are held for the whole batch, so that a stop that falls
+  // between two files is not forgotten: the next file stops at once.
+  quillmesh::TerminalOptions quiet;
+  quiet.progress = false;
+  quillmesh::TerminalUserInterface batchStop(quiet);
+  batchStop.OpenProgress(0);
 
   if (workers <= 1) {
     for (FileResult& result : results) {

@@ -26,39 +26,27 @@ std::string ParseJobs(const std::string& text, Options& options) {
   return "";
 }
 
+// A flag that sets a member of the options to a fixed value.
+template <auto Member, auto Value>
+std::string Set(const std::string&, Options& options) {
+  options.*Member = Value;
+  return "";
+}
+
+std::string SetReport(const std::string& path, Options& options) {
+  if (path.empty()) return "--report needs a file name";
+  options.reportPath = path;
+  return "";
+}
+
 constexpr OptionSpec kOptions[] = {
     {"-j", "--jobs", "N", "convert N files at a time, each with its own engine (default 1)", ParseJobs},
-    {"", "--report", "FILE.json", "write one JSON report of the whole run to FILE.json",
-     [](const std::string& path, Options& options) -> std::string {
-       if (path.empty()) return "--report needs a file name";
-       options.reportPath = path;
-       return "";
-     }},
-    {"", "--json", "", "inspect: print the tables as one JSON document",
-     [](const std::string&, Options& options) -> std::string {
-       options.json = true;
-       return "";
-     }},
-    {"", "--message-keys", "", "print the catalogue key behind each message",
-     [](const std::string&, Options& options) -> std::string {
-       options.messageKeys = true;
-       return "";
-     }},
-    {"", "--no-progress", "", "no progress display, even on a terminal",
-     [](const std::string&, Options& options) -> std::string {
-       options.progress = false;
-       return "";
-     }},
-    {"-h", "--help", "", "show this help",
-     [](const std::string&, Options& options) -> std::string {
-       options.command = Command::Help;
-       return "";
-     }},
-    {"-V", "--version", "", "show the version",
-     [](const std::string&, Options& options) -> std::string {
-       options.command = Command::Version;
-       return "";
-     }},
+    {"", "--report", "FILE.json", "write one JSON report of the whole run to FILE.json", SetReport},
+    {"", "--json", "", "inspect: print the tables as one JSON document", Set<&Options::json, true>},
+    {"", "--message-keys", "", "print the catalogue key behind each message", Set<&Options::messageKeys, true>},
+    {"", "--no-progress", "", "no progress display, even on a terminal", Set<&Options::progress, false>},
+    {"-h", "--help", "", "show this help", Set<&Options::command, Command::Help>},
+    {"-V", "--version", "", "show the version", Set<&Options::command, Command::Version>},
 };
 
 // The option that \p arg names, and its argument when glued to it

@@ -177,3 +177,23 @@ TEST(CommandLineBatch, TwentyFilesInParallelGiveTheBytesAndTheLinesOfOneAtATime)
 }
 
 }  // namespace
+
+namespace {
+
+TEST(CommandLineBatch, CtrlCStopsTheFileUnderWayAndTheFilesNotBegun) {
+  TempFolder folder;
+  std::string text = "TABLE:  \"GRID LINES\"\n";
+  for (int row = 0; row < 1000000; ++row) text += "   Grid=A\n";
+  for (const char* name : {"a.s2k", "b.s2k", "c.s2k"}) WriteFile(folder / name, text + "\nEND\n");
+  CliRun run = RunCli({"--message-keys", "--report", "run.json", "a.s2k", "b.s2k", "c.s2k"}, folder.Path(), 30,
+                      "[IDS_S2KV8_Export_must_be_executed]");
+  EXPECT_EQ(1, run.exitCode) << run.err;
+  EXPECT_NE(std::string::npos, run.err.find("quillmesh: a.s2k: stopped by Ctrl-C")) << run.err;
+  EXPECT_NE(std::string::npos, run.err.find("quillmesh: b.s2k: not converted, the run was stopped")) << run.err;
+  EXPECT_NE(std::string::npos, run.err.find("quillmesh: c.s2k: not converted, the run was stopped")) << run.err;
+  for (const char* name : {"a.tvt", "b.tvt", "c.tvt"}) EXPECT_FALSE(fs::exists(folder / name)) << name;
+  std::string report = ReadFile(folder / "run.json");
+  EXPECT_NE(std::string::npos, report.find("\"status\": \"not converted\"")) << report;
+}
+
+}  // namespace
