@@ -1,6 +1,7 @@
 // Several engines at once, under ThreadSanitizer: every thread converts its
-// own copy of each model, each run must give the bytes and the messages of a
-// run alone, and the sanitizer must see no race.
+// own copy of each model, then the command line's batch converts another
+// copy four files at a time; each run must give the bytes and the messages
+// of a run alone, and the sanitizer must see no race.
 #include <atomic>
 #include <cstdio>
 #include <filesystem>
@@ -11,6 +12,7 @@
 #include <thread>
 #include <vector>
 
+#include "batch.h"
 #include "quillmesh/quillmesh.hpp"
 #include "quillmesh/terminal.hpp"
 
@@ -41,13 +43,11 @@ std::string Slurp(const fs::path& path) {
   return std::string(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
 }
 
-// The code, the messages and the TVT bytes of one conversion.
-std::string Convert(const fs::path& input) {
-  KeepingUserInterface ui(input.string());
-  std::string outputPath;
-  int code = quillmesh::Convert(ui, outputPath);
+// The code, the messages and the TVT bytes of one conversion, its output
+// path made the same for every copy.
+std::string Outcome(const fs::path& input, int code, const std::string& messages) {
   std::ostringstream result;
-  result << "code " << code << "\n" << ui.kept;
+  result << "code " << code << "\n" << messages;
   fs::path output = quillmesh::OutputPathFor(input.string());
   if (fs::exists(output)) result << Slurp(output);
   // The header names the output path, which differs from copy to copy.
@@ -55,6 +55,13 @@ std::string Convert(const fs::path& input) {
   for (std::size_t at; (at = text.find(output.string())) != std::string::npos;)
     text.replace(at, output.string().size(), "@OUTPUT@");
   return text;
+}
+
+std::string Convert(const fs::path& input) {
+  KeepingUserInterface ui(input.string());
+  std::string outputPath;
+  int code = quillmesh::Convert(ui, outputPath);
+  return Outcome(input, code, ui.kept);
 }
 
 }  // namespace
@@ -68,7 +75,8 @@ int main(int argc, char** argv) {
   const std::vector<fs::path> models(argv + 2, argv + argc);
   constexpr int kThreads = 4;
   fs::remove_all(work);
-  for (int t = 0; t <= kThreads; ++t) {
+  const int batchFolder = kThreads + 1;
+  for (int t = 0; t <= batchFolder; ++t) {
     fs::create_directories(work / std::to_string(t));
     for (std::size_t i = 0; i < models.size(); ++i)
       fs::copy_file(models[i], work / std::to_string(t) / (std::to_string(i) + ".s2k"));
@@ -94,6 +102,21 @@ int main(int argc, char** argv) {
       }
     });
   for (std::thread& thread : threads) thread.join();
+
+  cli::Options options;
+  options.jobs = 4;
+  options.progress = false;
+  for (std::size_t i = 0; i < models.size(); ++i)
+    options.files.push_back((work / std::to_string(batchFolder) / (std::to_string(i) + ".s2k")).string());
+  std::vector<cli::FileResult> results = cli::ConvertAll(options);
+  for (std::size_t i = 0; i < models.size(); ++i) {
+    std::string messages;
+    for (const cli::MessageRecord& message : results[i].messages) messages += message.key + ":" + message.text + "\n";
+    if (Outcome(results[i].input, results[i].code, messages) != expected[i]) {
+      std::fprintf(stderr, "batch: %s converts differently\n", models[i].c_str());
+      ++mismatches;
+    }
+  }
   std::printf("%zu models, %d threads, %d mismatches\n", models.size(), kThreads, mismatches.load());
   return mismatches == 0 ? 0 : 1;
 }
