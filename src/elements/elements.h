@@ -66,6 +66,10 @@ class CElements : public CSubject {
   const S2kAreaSectionRow* FindAreaSectionRow(const std::string& section) const {
     return areaSectionRows_.Find(source_.AreaSection, section);
   }
+  /// The row a whole walk of table 201 ends on, or nullptr for an empty table.
+  const S2kConnectivityAreaRow* LastWalkedAreaConnectivity() const {
+    return source_.ConnectivityArea.Lookup(areaConnectivityByName_.LastWalked(source_.ConnectivityArea));
+  }
   /// The row a whole walk of table 202 ends on, or nullptr for an empty table.
   const S2kConnectivityFrameRow* LastWalkedFrameConnectivity() const {
     return source_.ConnectivityFrame.Lookup(frameConnectivityByName_.LastWalked(source_.ConnectivityFrame));

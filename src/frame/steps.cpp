@@ -20,6 +20,7 @@
 #include "loads/load_cases.h"
 #include "loads/load_combinations.h"
 #include "loads/prestress_loads.h"
+#include "loads/surface_loads.h"
 #include "loads/temperature_loads.h"
 #include "s2k/table_parsers.h"
 #include "tvt/structure_type.h"
@@ -54,6 +55,8 @@ constexpr SRunStep kConversionSteps[] = {
     {3, RunStep<&CLinks::ConvertLinks>},
     // 4 areas
     {4, RunStep<&CElements::ConvertAreas>},
+    {4, RunStep<&CSurfaceLoads::ConvertAreaUniformLoads>},
+    {4, RunStep<&CSurfaceLoads::ConvertAreaSurfaceLoads>},
     {4, RunStep<&CFrameLoads::ConvertFrameGravity, 2>},
     {4, RunStep<&CMasses::ConvertAreaMasses>},
     {4, RunStep<&CSprings::ConvertLineSprings, 2>},
@@ -141,6 +144,7 @@ std::span<const std::vector<S2kTableParser>* const> TableParserLists() {
       &FrameLoadTableParsers(),
       &PrestressTableParsers(),
       &TemperatureTableParsers(),
+      &SurfaceTableParsers(),
       &AnalysisTableParsers(),
       &LinkTableParsers(),
       &HistoryTableParsers(),

@@ -5,6 +5,7 @@
 #include "loads/joint_loads.h"
 #include "loads/load_cases.h"
 #include "loads/prestress_loads.h"
+#include "loads/surface_loads.h"
 #include "loads/temperature_loads.h"
 
 namespace {
@@ -25,7 +26,7 @@ const SCaseBlockWriter kCaseBlockWriters[] = {
     {RunCaseStep<&CTemperatureLoads::WriteThergrad>},
     {RunCaseStep<&CJointLoads::WriteSpdisp>},
     {RunCaseStep<&CPrestressLoads::WritePrestress>},
-    // *PRESSURE (surface loads)
+    {RunCaseStep<&CSurfaceLoads::WritePressure>},
     {RunCaseStep<&CAutoLoads::WriteWind>, "W"},
     {RunCaseStep<&CAutoLoads::WriteSeis>, "E"},
 };

@@ -17,6 +17,7 @@ const std::vector<S2kTableParser>& JointLoadTableParsers();
 const std::vector<S2kTableParser>& FrameLoadTableParsers();
 const std::vector<S2kTableParser>& PrestressTableParsers();
 const std::vector<S2kTableParser>& TemperatureTableParsers();
+const std::vector<S2kTableParser>& SurfaceTableParsers();
 const std::vector<S2kTableParser>& AnalysisTableParsers();
 const std::vector<S2kTableParser>& HistoryTableParsers();
 const std::vector<S2kTableParser>& CombinationTableParsers();
