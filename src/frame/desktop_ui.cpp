@@ -18,29 +18,36 @@ namespace {
 constexpr const char* kLibraryName = "libquillmesh_gtk.so";
 
 // Loaded once and kept: a toolkit is not made to be unloaded.
-const QmFrontEndFunctions* LoadFrontEnd(std::string& why) {
-  static const QmFrontEndFunctions* functions = nullptr;
-  static std::string failure;
-  static bool tried = false;
-  if (!tried) {
-    tried = true;
-    std::string path = LibraryFolder() + "/" + kLibraryName;
-    void* library = dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL);
-    if (!library) {
-      const char* error = dlerror();
-      failure = error ? error : "cannot load " + path;
-    } else if (auto entry = reinterpret_cast<QmFrontEndEntry>(dlsym(library, QM_FRONT_END_ENTRY))) {
-      const QmFrontEndFunctions* found = entry();
-      if (found && found->version == QM_FRONT_END_VERSION)
-        functions = found;
-      else
-        failure = path + " is of another version";
-    } else {
-      failure = path + " has no " + QM_FRONT_END_ENTRY;
-    }
+// The front end's table, or why there is none. Loaded once, by the first
+// caller, whatever thread it is on.
+struct SLoadedFrontEnd {
+  const QmFrontEndFunctions* functions = nullptr;
+  std::string failure;
+};
+
+SLoadedFrontEnd LoadFrontEndLibrary() {
+  SLoadedFrontEnd loaded;
+  std::string path = LibraryFolder() + "/" + kLibraryName;
+  void* library = dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL);
+  if (!library) {
+    const char* error = dlerror();
+    loaded.failure = error ? error : "cannot load " + path;
+  } else if (auto entry = reinterpret_cast<QmFrontEndEntry>(dlsym(library, QM_FRONT_END_ENTRY))) {
+    const QmFrontEndFunctions* found = entry();
+    if (found && found->version == QM_FRONT_END_VERSION)
+      loaded.functions = found;
+    else
+      loaded.failure = path + " is of another version";
+  } else {
+    loaded.failure = path + " has no " + QM_FRONT_END_ENTRY;
   }
-  if (!functions) why = failure;
-  return functions;
+  return loaded;
+}
+
+const QmFrontEndFunctions* LoadFrontEnd(std::string& why) {
+  static const SLoadedFrontEnd loaded = LoadFrontEndLibrary();
+  if (!loaded.functions) why = loaded.failure;
+  return loaded.functions;
 }
 
 class DesktopUserInterface : public UserInterface {
