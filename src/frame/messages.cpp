@@ -24,6 +24,11 @@ void* messageLibrary = nullptr;
 
 }  // namespace
 
+#ifdef __EMSCRIPTEN__
+// In the browser nothing is loaded at run time: the catalogue is linked in.
+extern "C" const char* LoadStr(const char* key);
+#endif
+
 // The folder of the file that holds this code: the shared library, or the
 // program it was linked into.
 std::string LibraryFolder() {
@@ -54,6 +59,10 @@ const char* LoadStrEntry(const char* key) { return loadStr.load(std::memory_orde
 
 int BindMessageLibrary() {
   std::lock_guard<std::mutex> hold(bindingLock);
+#ifdef __EMSCRIPTEN__
+  loadStr.store(LoadStr, std::memory_order_release);
+  return 1;
+#else
   if (messageLibrary) return 1;
   std::string name = LibraryFolder() + "/lib" + "Convert" + "msg" + ".so";
   messageLibrary = dlopen(name.c_str(), RTLD_NOW | RTLD_LOCAL);
@@ -66,6 +75,7 @@ int BindMessageLibrary() {
   dlclose(messageLibrary);
   messageLibrary = nullptr;
   return 0;
+#endif
 }
 
 int ReleaseMessageLibrary() {

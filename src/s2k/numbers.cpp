@@ -39,8 +39,8 @@ double ParseDouble(std::string_view text) {
 }
 
 // What this platform's atoi does, without leaning on its undefined overflow:
-// the long value cut to 32 bits.
-int ParseInt(const std::string& text) { return static_cast<int>(std::strtol(text.c_str(), nullptr, 10)); }
+// the 64-bit value cut to 32 bits, on every platform.
+int ParseInt(const std::string& text) { return static_cast<int>(std::strtoll(text.c_str(), nullptr, 10)); }
 
 int TruncateToInt(double value) {
   if (!(value > -2147483649.0 && value < 2147483648.0)) return -2147483647 - 1;
