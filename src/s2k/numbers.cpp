@@ -28,12 +28,15 @@ double ParseDouble(std::string_view text) {
     if (expDigits > 0) end = j;
   }
   // The prefix is plain decimal, so both readers read exactly it and round it
-  // the same way; strtod only where from_chars declines (out of range).
+  // the same way; strtod only where from_chars declines (out of range) or the
+  // standard library has none for doubles.
+#if defined(__cpp_lib_to_chars)
   const char* first = text.data() + start;
   if (*first == '+') ++first;
   double value = 0;
   auto [stop, error] = std::from_chars(first, text.data() + end, value);
   if (error == std::errc() && stop == text.data() + end) return value;
+#endif
   std::string prefix(text.substr(start, end - start));
   return std::strtod(prefix.c_str(), nullptr);
 }

@@ -94,9 +94,14 @@ bool WriteSimple(TvtOutputFile& file, const char* format, va_list args) {
       case 'g': {
         double number = va_arg(args, double);
         if (!std::isfinite(number)) return false;
+#if defined(__cpp_lib_to_chars)
         auto result = std::to_chars(value.digits, value.digits + sizeof value.digits, number,
                                     std::chars_format::general, 6);
         value.size = static_cast<std::size_t>(result.ptr - value.digits);
+#else
+        // A standard library without to_chars for doubles: the same digits.
+        value.size = static_cast<std::size_t>(std::snprintf(value.digits, sizeof value.digits, "%g", number));
+#endif
         value.text = value.digits;
         break;
       }
