@@ -257,6 +257,7 @@ async function Main() {
   } finally {
     if (session) await session.Call('DELETE', '').catch(() => {});
     chromedriver.kill();
+    for (const file of [big, huge]) fs.rmSync(file, {force: true});
   }
   const failed = checks.filter((line) => line.startsWith('FAIL')).length;
   console.log(`${checks.length - failed} of ${checks.length} checks of the page pass`);
