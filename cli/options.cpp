@@ -7,7 +7,7 @@
 namespace cli {
 namespace {
 
-struct OptionSpec {
+struct OptionRow {
   const char* shortName;  ///< "" when there is none
   const char* longName;
   const char* argument;   ///< "" for a flag
@@ -39,7 +39,7 @@ std::string SetReport(const std::string& path, Options& options) {
   return "";
 }
 
-constexpr OptionSpec kOptions[] = {
+constexpr OptionRow kOptions[] = {
     {"-j", "--jobs", "N", "convert N files at a time, each with its own engine (default 1)", ParseJobs},
     {"", "--report", "FILE.json", "write one JSON report of the whole run to FILE.json", SetReport},
     {"", "--json", "", "inspect: print the tables as one JSON document", Set<&Options::json, true>},
@@ -51,22 +51,22 @@ constexpr OptionSpec kOptions[] = {
 
 // The option that \p arg names, and its argument when glued to it
 // ("-j4", "--jobs=4").
-const OptionSpec* Find(const std::string& arg, std::string& glued, bool& hasGlued) {
+const OptionRow* Find(const std::string& arg, std::string& glued, bool& hasGlued) {
   hasGlued = false;
-  for (const OptionSpec& spec : kOptions) {
-    std::string longName = spec.longName;
-    std::string shortName = spec.shortName;
-    if (arg == longName || (!shortName.empty() && arg == shortName)) return &spec;
-    if (*spec.argument) {
+  for (const OptionRow& option : kOptions) {
+    std::string longName = option.longName;
+    std::string shortName = option.shortName;
+    if (arg == longName || (!shortName.empty() && arg == shortName)) return &option;
+    if (*option.argument) {
       if (arg.rfind(longName + "=", 0) == 0) {
         glued = arg.substr(longName.size() + 1);
         hasGlued = true;
-        return &spec;
+        return &option;
       }
       if (!shortName.empty() && arg.size() > shortName.size() && arg.rfind(shortName, 0) == 0) {
         glued = arg.substr(shortName.size());
         hasGlued = true;
-        return &spec;
+        return &option;
       }
     }
   }
@@ -92,13 +92,13 @@ std::string ParseArguments(const std::vector<std::string>& args, Options& option
     }
     std::string argument;
     bool glued = false;
-    const OptionSpec* spec = Find(arg, argument, glued);
-    if (!spec) return "unknown option " + arg;
-    if (*spec->argument && !glued) {
-      if (i + 1 >= args.size()) return std::string(spec->longName) + " needs " + spec->argument;
+    const OptionRow* option = Find(arg, argument, glued);
+    if (!option) return "unknown option " + arg;
+    if (*option->argument && !glued) {
+      if (i + 1 >= args.size()) return std::string(option->longName) + " needs " + option->argument;
       argument = args[++i];
     }
-    std::string error = spec->apply(argument, options);
+    std::string error = option->apply(argument, options);
     if (!error.empty()) return error;
     if (options.command == Command::Help || options.command == Command::Version) return "";
   }
@@ -121,10 +121,10 @@ void PrintUsage(std::FILE* out) {
       "\n"
       "options:\n",
       out);
-  for (const OptionSpec& spec : kOptions) {
-    std::string names = *spec.shortName ? std::string(spec.shortName) + ", " + spec.longName : spec.longName;
-    if (*spec.argument) names += std::string(" ") + spec.argument;
-    std::fprintf(out, "  %-22s %s\n", names.c_str(), spec.help);
+  for (const OptionRow& option : kOptions) {
+    std::string names = *option.shortName ? std::string(option.shortName) + ", " + option.longName : option.longName;
+    if (*option.argument) names += std::string(" ") + option.argument;
+    std::fprintf(out, "  %-22s %s\n", names.c_str(), option.help);
   }
   std::fputs(
       "\n"
