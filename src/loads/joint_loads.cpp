@@ -26,15 +26,6 @@ constexpr S2kField<S2kJointGroundRow> kJointGroundKeys[] = {
     NumberKey("R3=", &S2kJointGroundRow::R3),
 };
 
-// What this subject asks of the joints.
-void TurnToGlobal(CS2kConverter& engine, const std::string& joint, double& a, double& b, double& c) {
-  engine.Get<CGeometry>().LocalToGlobal(joint, a, b, c);
-}
-void TurnToLocal(CS2kConverter& engine, const std::string& joint, double& a, double& b, double& c) {
-  engine.Get<CGeometry>().GlobalToLocal(joint, a, b, c);
-}
-bool HasLocalAxes(CS2kConverter& engine, const std::string& joint) { return engine.Get<CGeometry>().HasJointLocalAxes(joint); }
-
 }  // namespace
 
 const std::vector<S2kTableParser>& JointLoadTableParsers() {
@@ -57,13 +48,14 @@ int CJointLoads::ParseJointGrounds() { return engine.ParseRows(kJointGroundKeys,
 
 // A user coordinate system is taken as global, with no word said.
 int CJointLoads::ConvertJointForces() {
+  const CGeometry& geometry = engine.Get<CGeometry>();
   int ok = 1;
   forces_.Walk([&](int key, const S2kJointForceRow& row) {
     if (!ok) return;
     TvtConloadRec rec{row.Joint, row.LoadCase, row.F1, row.F2, row.F3, row.M1, row.M2, row.M3};
     if (row.CoordSys == "Local") {
-      TurnToGlobal(engine, row.Joint, rec.FX, rec.FY, rec.FZ);
-      TurnToGlobal(engine, row.Joint, rec.MX, rec.MY, rec.MZ);
+      geometry.LocalToGlobal(row.Joint, rec.FX, rec.FY, rec.FZ);
+      geometry.LocalToGlobal(row.Joint, rec.MX, rec.MY, rec.MZ);
     }
     ok = conloads_.SetAt(key, std::move(rec));
   });
@@ -71,13 +63,14 @@ int CJointLoads::ConvertJointForces() {
 }
 
 int CJointLoads::ConvertJointGroundDisplacements() {
+  const CGeometry& geometry = engine.Get<CGeometry>();
   int ok = 1;
   grounds_.Walk([&](int key, const S2kJointGroundRow& row) {
     if (!ok) return;
     TvtSpdispRec rec{row.Joint, "", row.LoadCase, row.U1, row.U2, row.U3, row.R1, row.R2, row.R3};
-    if (HasLocalAxes(engine, row.Joint) && row.CoordSys == "GLOBAL") {
-      TurnToLocal(engine, row.Joint, rec.Dx, rec.Dy, rec.Dz);
-      TurnToLocal(engine, row.Joint, rec.Rx, rec.Ry, rec.Rz);
+    if (geometry.HasJointLocalAxes(row.Joint) && row.CoordSys == "GLOBAL") {
+      geometry.GlobalToLocal(row.Joint, rec.Dx, rec.Dy, rec.Dz);
+      geometry.GlobalToLocal(row.Joint, rec.Rx, rec.Ry, rec.Rz);
     }
     // Here a value of exactly the tolerance counts.
     for (double value : {rec.Dx, rec.Dy, rec.Dz, rec.Rx, rec.Ry, rec.Rz})
