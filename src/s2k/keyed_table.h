@@ -2,8 +2,12 @@
 // in the walk order of a hash of 17, 1001 or 10001 buckets.
 #pragma once
 
+#include <algorithm>
+#include <bit>
+#include <cstddef>
 #include <cstdint>
-#include <deque>
+#include <memory>
+#include <new>
 #include <unordered_map>
 #include <utility>
 #include <vector>
@@ -11,6 +15,13 @@
 template <class Rec>
 class CKeyedTable {
  public:
+  CKeyedTable() = default;
+  CKeyedTable(const CKeyedTable&) = delete;
+  CKeyedTable& operator=(const CKeyedTable&) = delete;
+  ~CKeyedTable() {
+    for (std::uint32_t at = 0; at < count_; ++at) RecAt(at)->~Rec();
+  }
+
   /// Sets the bucket count that decides the walk order. Entries stay.
   void Reset(int size) {
     size_ = size > 0 ? size : 17;
@@ -19,20 +30,25 @@ class CKeyedTable {
   int Size() const { return size_; }
 
   /// Inserts or overwrites; an overwritten key keeps its place. \returns 1.
+  /// A record never moves once in: pointers from Lookup stay valid.
   template <class R>
   int SetAt(int key, R&& rec) {
-    if (std::size_t at = Find(key); at != kAbsent) {
-      entries_[at].second = std::forward<R>(rec);
+    if (std::uint32_t at = Find(key); at != kNone) {
+      *RecAt(at) = std::forward<R>(rec);
       return 1;
     }
-    std::size_t at = entries_.size();
-    entries_.emplace_back(key, std::forward<R>(rec));
+    const std::uint32_t at = count_;
+    if (at == chunks_.size() * kPerChunk) chunks_.push_back(std::unique_ptr<Chunk>(new Chunk));
+    Chunk& chunk = *chunks_[at / kPerChunk];
+    ::new (static_cast<void*>(chunk.recs + at % kPerChunk * sizeof(Rec))) Rec(std::forward<R>(rec));
+    chunk.keys[at % kPerChunk] = key;
+    ++count_;
     walkValid_ = false;
     // Keys that are row positions (1, 2, 3 ...) go to the dense index, as
     // long as it stays within twice the entries; the rest to the hash.
-    if (key >= 0 && static_cast<std::size_t>(key) < 2 * entries_.size() + kDenseSlack) {
+    if (key >= 0 && static_cast<std::size_t>(key) < 2 * static_cast<std::size_t>(count_) + kDenseSlack) {
       if (static_cast<std::size_t>(key) >= dense_.size()) dense_.resize(static_cast<std::size_t>(key) + 1, kNone);
-      dense_[static_cast<std::size_t>(key)] = static_cast<std::uint32_t>(at);
+      dense_[static_cast<std::size_t>(key)] = at;
     } else {
       sparse_.emplace(key, at);
     }
@@ -41,12 +57,12 @@ class CKeyedTable {
 
   /// \returns the record of \p key, or nullptr.
   const Rec* Lookup(int key) const {
-    std::size_t at = Find(key);
-    return at == kAbsent ? nullptr : &entries_[at].second;
+    std::uint32_t at = Find(key);
+    return at == kNone ? nullptr : RecAt(at);
   }
   Rec* Lookup(int key) {
-    std::size_t at = Find(key);
-    return at == kAbsent ? nullptr : &entries_[at].second;
+    std::uint32_t at = Find(key);
+    return at == kNone ? nullptr : RecAt(at);
   }
   bool Lookup(int key, Rec& out) const {
     const Rec* rec = Lookup(key);
@@ -54,18 +70,18 @@ class CKeyedTable {
     return rec != nullptr;
   }
 
-  int Count() const { return static_cast<int>(entries_.size()); }
-  bool Empty() const { return entries_.empty(); }
+  int Count() const { return static_cast<int>(count_); }
+  bool Empty() const { return count_ == 0; }
 
   /// Calls \p fn(key, rec) in walk order: buckets (key >> 4) % size from 0
   /// upward, the newest key of a bucket first.
   template <class Fn>
   void Walk(Fn&& fn) const {
-    for (std::size_t i : WalkOrder()) fn(entries_[i].first, entries_[i].second);
+    for (std::uint32_t at : WalkOrder()) fn(KeyAt(at), *RecAt(at));
   }
   template <class Fn>
   void Walk(Fn&& fn) {
-    for (std::size_t i : WalkOrder()) fn(entries_[i].first, entries_[i].second);
+    for (std::uint32_t at : WalkOrder()) fn(KeyAt(at), *RecAt(at));
   }
 
   /// Calls \p fn(key, rec) for keys 1 to Count that exist.
@@ -78,45 +94,58 @@ class CKeyedTable {
   /// Keys in walk order.
   std::vector<int> WalkKeys() const {
     std::vector<int> keys;
-    keys.reserve(entries_.size());
+    keys.reserve(count_);
     Walk([&](int key, const Rec&) { keys.push_back(key); });
     return keys;
   }
 
  private:
   static constexpr std::uint32_t kNone = 0xffffffffu;
-  static constexpr std::size_t kAbsent = static_cast<std::size_t>(-1);
   static constexpr std::size_t kDenseSlack = 64;
+  // Records go in chunks of a fixed count, about 4 KiB each: a big table
+  // neither copies its records as it grows nor leaves freed blocks behind.
+  static constexpr std::size_t kPerChunk = std::bit_floor(std::max<std::size_t>(16, 4096 / sizeof(Rec)));
 
-  // The place of \p key in entries_, or kAbsent.
-  std::size_t Find(int key) const {
+  struct Chunk {
+    int keys[kPerChunk];
+    alignas(Rec) unsigned char recs[kPerChunk * sizeof(Rec)];
+  };
+
+  int KeyAt(std::uint32_t at) const { return chunks_[at / kPerChunk]->keys[at % kPerChunk]; }
+  Rec* RecAt(std::uint32_t at) const {
+    return std::launder(reinterpret_cast<Rec*>(chunks_[at / kPerChunk]->recs + at % kPerChunk * sizeof(Rec)));
+  }
+
+  // The place of \p key, or kNone.
+  std::uint32_t Find(int key) const {
     if (key >= 0 && static_cast<std::size_t>(key) < dense_.size() && dense_[static_cast<std::size_t>(key)] != kNone)
       return dense_[static_cast<std::size_t>(key)];
-    if (sparse_.empty()) return kAbsent;
+    if (sparse_.empty()) return kNone;
     auto it = sparse_.find(key);
-    return it == sparse_.end() ? kAbsent : it->second;
+    return it == sparse_.end() ? kNone : it->second;
   }
 
   std::uint32_t Bucket(int key) const {
     return (static_cast<std::uint32_t>(key) >> 4) % static_cast<std::uint32_t>(size_);
   }
-  const std::vector<std::size_t>& WalkOrder() const {
+  const std::vector<std::uint32_t>& WalkOrder() const {
     if (!walkValid_) {
       // Buckets in order; within a bucket the newest entry heads the chain.
-      std::vector<std::size_t> start(static_cast<std::size_t>(size_) + 1, 0);
-      for (const auto& entry : entries_) ++start[Bucket(entry.first) + 1];
+      std::vector<std::uint32_t> start(static_cast<std::size_t>(size_) + 1, 0);
+      for (std::uint32_t at = 0; at < count_; ++at) ++start[Bucket(KeyAt(at)) + 1];
       for (std::size_t b = 1; b < start.size(); ++b) start[b] += start[b - 1];
-      walk_.resize(entries_.size());
-      for (std::size_t i = entries_.size(); i-- > 0;) walk_[start[Bucket(entries_[i].first)]++] = i;
+      walk_.assign(count_, 0);  // exactly the entries, no spare room
+      for (std::uint32_t at = count_; at-- > 0;) walk_[start[Bucket(KeyAt(at))]++] = at;
       walkValid_ = true;
     }
     return walk_;
   }
 
   int size_ = 17;
-  std::deque<std::pair<int, Rec>> entries_;
+  std::uint32_t count_ = 0;
+  std::vector<std::unique_ptr<Chunk>> chunks_;
   std::vector<std::uint32_t> dense_;
-  std::unordered_map<int, std::size_t> sparse_;
-  mutable std::vector<std::size_t> walk_;
+  std::unordered_map<int, std::uint32_t> sparse_;
+  mutable std::vector<std::uint32_t> walk_;
   mutable bool walkValid_ = false;
 };

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <map>
+#include <string>
 
 #include "frame/converter.h"
 #include "frame/steps.h"
@@ -80,6 +81,51 @@ TEST(KeyedTable, FindsKeysFarApartNegativeOrHuge) {
   // 0x07FFFFFF % 17 = 7, 0x08000000 % 17 = 8, 0x0FFFFFFF % 17 = 15 for -5.
   // The newest of a bucket comes first.
   EXPECT_EQ((std::vector<int>{4, 0, 3000, 2, 1, 70, 2147483647, -2147483647 - 1, 1000000, -5}), table.WalkKeys());
+}
+
+// Counts the records alive, to see each one made once and destroyed once.
+struct CountedRow {
+  static inline int alive = 0;
+  std::string text;
+  explicit CountedRow(std::string t) : text(std::move(t)) { ++alive; }
+  CountedRow(const CountedRow& other) : text(other.text) { ++alive; }
+  CountedRow& operator=(const CountedRow&) = default;
+  ~CountedRow() { --alive; }
+};
+
+// Callers keep the records they looked up while the table grows.
+TEST(KeyedTable, KeepsRecordsInPlaceAsItGrows) {
+  {
+    CKeyedTable<CountedRow> table;
+    table.Reset(10001);
+    std::vector<const CountedRow*> held;
+    for (int key = 1; key <= 40; ++key) {
+      table.SetAt(key, CountedRow("row " + std::to_string(key) + " with a text too long to sit inside the string"));
+      held.push_back(table.Lookup(key));
+    }
+    const CountedRow* far = nullptr;
+    for (int key = 41; key <= 30000; ++key) {
+      table.SetAt(key % 2 ? key : -key, CountedRow(std::to_string(key)));
+      if (key == 50) far = table.Lookup(-50);
+      if (key % 5000 == 0) table.WalkKeys();
+    }
+    table.SetAt(7, CountedRow("seven again"));
+    EXPECT_EQ(30000, table.Count());
+    EXPECT_EQ(30000, CountedRow::alive);
+    for (int key = 1; key <= 40; ++key) {
+      EXPECT_EQ(held[static_cast<std::size_t>(key - 1)], table.Lookup(key)) << key;
+      EXPECT_EQ(key == 7 ? "seven again" : "row " + std::to_string(key) + " with a text too long to sit inside the string",
+                held[static_cast<std::size_t>(key - 1)]->text);
+    }
+    EXPECT_EQ(far, table.Lookup(-50));
+    EXPECT_EQ("50", far->text);
+    std::size_t walked = 0;
+    table.Walk([&](int key, const CountedRow& row) {
+      walked += &row == table.Lookup(key);
+    });
+    EXPECT_EQ(30000u, walked);
+  }
+  EXPECT_EQ(0, CountedRow::alive);
 }
 
 TEST(Recognition, FirstWordAtColumnNineThenTheFirstMemberWordAnywhere) {
