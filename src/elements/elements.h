@@ -5,6 +5,7 @@
 #include <string>
 #include <unordered_map>
 
+#include "elements/element_number_index.h"
 #include "elements/element_tables.h"
 #include "frame/subject.h"
 #include "s2k/name_index.h"
@@ -121,9 +122,7 @@ class CElements : public CSubject {
   int solidNodeCount = 8;
 
   CKeyedTable<TvtElementMapEntry> elementNumberMap;
-  /// Kind, a zero character and name, to the first number in walk order.
-  std::unordered_map<std::string, int> elementNumberIndex_;
-  int elementNumberIndexCount_ = -1;
+  CElementNumberIndex elementNumberIndex_;
 
   CNameIndex<S2kFrameLocalAxes1Row> frameAngleNames_{&S2kFrameLocalAxes1Row::Frame};
   CNameIndex<S2kFrameLocalAxes2Row> frameAdvancedAxesNames_{&S2kFrameLocalAxes2Row::Frame};

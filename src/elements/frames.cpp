@@ -18,13 +18,6 @@ namespace {
 // The program's own pi, eleven digits: angles from vectors carry its rounding.
 constexpr double kPi = 3.1415926535;
 
-std::string ElementKey(const std::string& kind, const std::string& name) {
-  std::string key = kind;
-  key += '\0';
-  key += name;
-  return key;
-}
-
 }  // namespace
 
 // Every model with frames gets the local axes warning: only the beta angle
@@ -97,16 +90,9 @@ int CElements::IsRenumbered() const { return !ElementNamesNumeric || ElementsRen
 
 int CElements::FindElementNumber(const std::string& name, const std::string& kind, int& number) {
   if (elementNumberMap.Empty()) return 1;
-  if (elementNumberIndexCount_ != elementNumberMap.Count()) {
-    elementNumberIndex_.clear();
-    elementNumberMap.Walk([&](int, const TvtElementMapEntry& entry) {
-      elementNumberIndex_.try_emplace(ElementKey(entry.kind, entry.name), entry.number);
-    });
-    elementNumberIndexCount_ = elementNumberMap.Count();
-  }
-  auto it = elementNumberIndex_.find(ElementKey(kind, name));
-  if (it == elementNumberIndex_.end()) return 0;
-  number = it->second;
+  const TvtElementMapEntry* entry = elementNumberIndex_.Find(elementNumberMap, name, kind);
+  if (!entry) return 0;
+  number = entry->number;
   return 1;
 }
 

@@ -1,6 +1,8 @@
 // Frame sections by position, element number lookups and the element tables' keys.
 #include <gtest/gtest.h>
 
+#include <string>
+
 #include "frame/converter.h"
 #include "recording_ui.h"
 #include "subject_access.h"
@@ -88,6 +90,36 @@ TEST(FindElementNumber, MatchesNameAndKindFirstInWalkOrder) {
   EXPECT_EQ(2, e.engine.Get<CElements>().ElementNumberOf("A", "AREA"));
   SubjectAccess::ElementsRenumbered(e.engine) = 0;
   EXPECT_EQ(12, e.engine.Get<CElements>().ElementNumberOf(" 12x", "AREA")) << "kept numbers read the name";
+}
+
+// A map that grows after lookups, with names repeated across kinds, buckets
+// and keys: every lookup gives what a walk to the first match gives.
+TEST(FindElementNumber, AgreesWithAWalkAsTheMapGrows) {
+  Engine e;
+  auto& map = SubjectAccess::ElementNumberMap(e.engine);
+  const char* kinds[] = {"FRAME", "AREA", "SOLID"};
+  auto walk = [&](const std::string& name, const std::string& kind) {
+    int found = 0;
+    map.Walk([&](int, const TvtElementMapEntry& entry) {
+      if (!found && entry.name == name && entry.kind == kind) found = entry.number;
+    });
+    return found;
+  };
+  int key = 0;
+  for (int round = 0; round < 3; ++round) {
+    // 700 entries a round: 60 names, so each name of a kind recurs in many
+    // buckets; the numbers differ from the keys.
+    for (int k = 0; k < 700; ++k, ++key)
+      map.SetAt(key + 1, TvtElementMapEntry{key + 1, 5000 + key, "E" + std::to_string(key * 7 % 60), kinds[key % 3]});
+    for (int n = 0; n < 62; ++n)
+      for (const char* kind : {"FRAME", "AREA", "SOLID", "frame", ""}) {
+        std::string name = "E" + std::to_string(n);
+        int number = -1;
+        int want = walk(name, kind);
+        EXPECT_EQ(want ? 1 : 0, e.engine.Get<CElements>().FindElementNumber(name, kind, number)) << name << kind;
+        EXPECT_EQ(want ? want : -1, number) << name << kind << " round " << round;
+      }
+  }
 }
 
 TEST(ElementNames, OnlyDigitsKeepNumbers) {
