@@ -42,8 +42,7 @@ void CAnalysisControls::ConvertModalCase(const std::string& Case) {
     } else if (rec.TYPE == "RITZ" && !modal3_.Empty()) {
       int zeroEntries = 0;
       const auto* loads = modal3Cases_.Hits(modal3_, Case);
-      const std::vector<int> none;
-      for (int key : loads ? loads->keys : none) {
+      for (int key : loads ? loads->keys : std::span<const int>()) {
         const S2kCaseModal3Row& load = *modal3_.Lookup(key);
         rec.bINCNL = "NO";
         rec.iGNUM = 1;

@@ -72,7 +72,7 @@ int CTimeHistory::CollectFunctionPoints(const std::string& name, std::vector<dou
   if (functionKeysCount_ < 0) {
     const int count = fromFile ? fromFile_.Count() : user_.Count();
     for (int key = 1; key <= count; ++key) {
-      const std::string* rowName = nullptr;
+      const CText* rowName = nullptr;
       if (fromFile) {
         if (const S2kHistoryFromFileRow* row = fromFile_.Lookup(key)) rowName = &row->Name;
       } else if (const S2kHistoryUserRow* row = user_.Lookup(key)) {

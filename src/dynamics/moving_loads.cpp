@@ -82,7 +82,7 @@ constexpr S2kField<S2kCaseMovingLoad3Row> kCase3Keys[] = {
 
 /// The three fields a group of results takes from its word: none, all, or
 /// the group of that name.
-void ReadResultGroup(const std::string& word, std::string& enabled, std::string& byGroup, std::string& group) {
+void ReadResultGroup(const std::string& word, CText& enabled, CText& byGroup, CText& group) {
   if (word.empty() || word == "None") {
     enabled = "NO";
     byGroup = "NO";

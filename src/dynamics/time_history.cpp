@@ -257,7 +257,7 @@ int CTimeHistory::ConvertDirectHistoryCase(const std::string& Case, int iATYPE, 
     rec.iMDTYPE = 2;
     // The case's own damping row says how its coefficients are given.
     const S2kHistoryDampingRow* damping = direct3Cases_.Find(direct3_, Case);
-    const std::string mode = damping ? damping->SpecifyType : std::string();
+    const CText mode = damping ? damping->SpecifyType : CText();
     if (mode == "Direct") {
       rec.iCOEF = 1;
     } else {

@@ -1,6 +1,7 @@
 // Rows and records of time history cases, their loads and their functions.
 #pragma once
 
+#include "s2k/text.h"
 #include <cerrno>
 #include <string>
 #include <vector>
@@ -11,56 +12,56 @@
 
 /// Table 173: a direct history case.
 struct S2kDirectHistory1Row {
-  std::string Case;
+  CText Case;
   double OutSteps = 1, StepSize = 1;
 };
 
 /// Tables 174 and 182: a load of a history case.
 struct S2kHistoryLoadRow {
-  std::string Case, LoadType, LoadName, Function;
+  CText Case, LoadType, LoadName, Function;
   double LoadSF = 0, TransAccSF = 0, TimeFactor = 0, ArrivalTime = 0;
-  std::string CoordSys;
+  CText CoordSys;
   double Angle = 0;
   int LoadSFGiven = 0;  ///< whether the row has "LoadSF="
 };
 
 /// Tables 175 and 184: proportional damping of a history case.
 struct S2kHistoryDampingRow {
-  std::string Case, SpecifyType;
+  CText Case, SpecifyType;
   double MassCoeff = 0, StiffCoeff = 0, Period1 = 0, Frequency1 = 0, Damping1 = 0, Period2 = 0, Frequency2 = 0,
          Damping2 = 0;
 };
 
 /// Table 176: the integration of a direct history case.
 struct S2kDirectHistory4Row {
-  std::string Case, IntMethod;
+  CText Case, IntMethod;
   double Gamma = 0, Beta = 0, Theta = 0, Alpha = 0, AlphaM = 0;
 };
 
 /// Table 177: the nonlinear parameters of a direct history case.
 struct S2kDirectHistory5Row {
-  std::string Case, GeoNonLin;
+  CText Case, GeoNonLin;
   double DTMax = 0, DTMin = 0, MaxIter = 0, ItConvTol = 0, EvLumpTol = 0;
   int FrameTC = 0, FrameHinge = 0, CableTC = 0, LinkTC = 0, LinkOther = 0;
 };
 
 /// Table 181: a modal history case.
 struct S2kModalHistory1Row {
-  std::string Case, HistoryType;
+  CText Case, HistoryType;
   double OutSteps = 1, StepSize = 0;
-  std::string DampingType;
+  CText DampingType;
   double ConstDamp = 0;
 };
 
 /// Table 185: the damping of one mode of a modal history case.
 struct S2kModalHistory5Row {
-  std::string Case, Mode;
+  CText Case, Mode;
   double Damping = 0;
 };
 
 /// Table 186: the nonlinear parameters of a modal history case.
 struct S2kModalHistory6Row {
-  std::string Case;
+  CText Case;
   double PeriodStat = 0, DTMax = 0, DTMin = 0, FConvTol = 0, EConvTol = 0, ForceItMax = 0, ForceItMin = 0,
          ConvFactor = 0;
   int FrameTC = 0, FrameHinge = 0, CableTC = 0, LinkTC = 0, LinkOther = 0;
@@ -68,29 +69,29 @@ struct S2kModalHistory6Row {
 
 /// Table 283: a point of a function read from a file.
 struct S2kHistoryFromFileRow {
-  std::string Name;
+  CText Name;
   double Time = 0, Value = 0, HeaderLines = 0, PrefixChars = 0, PtsPerLine = 0;
-  std::string FormatType;
+  CText FormatType;
   double FixedLength = 0, Interval = 0;
-  std::string FileName;
+  CText FileName;
 };
 
 /// Table 289: a point of a user function.
 struct S2kHistoryUserRow {
-  std::string Name;
+  CText Name;
   double Time = 0, Value = 0;
 };
 
 /// A case of *THLDCASE. iMODE and DAMPING grow together.
 struct TvtThldcaseRec {
-  std::string NAME, DESC;
+  CText NAME, DESC;
   double ETIME = 0, INC = 0;
   int iOUT = 0, iICOND = 0;
-  std::string FSPLC;
+  CText FSPLC;
   int iATYPE = 0, iAMETHOD = 0, iTHTYPE = 0, iMDTYPE = 0;
   double DALL = 0;
   int iCOEF = 0, iCALC = 0;
-  std::string bMASSP = "NO", bSTIFFP = "NO";
+  CText bMASSP = "NO", bSTIFFP = "NO";
   double MASSC = 0, STIFFC = 0, FP1 = 0, DR1 = 0, FP2 = 0, DR2 = 0;
   int iNMM = 0;
   double GAMMA = 0, BETA = 0;
@@ -103,7 +104,7 @@ struct TvtThldcaseRec {
 
 /// A function of *TFUNCTION.
 struct TvtTfunctionRec {
-  std::string FUNC, DESC;
+  CText FUNC, DESC;
   int one = 1;    ///< the 1 of the command's line
   int iTYPE = 0;  ///< 5 force, 2 acceleration
   double SCALE = 1;
@@ -113,12 +114,12 @@ struct TvtTfunctionRec {
 
 /// A row of *GROUND-ACC: one per case.
 struct TvtGroundAccRec {
-  std::string THIS, FUNCX, FUNCY, FUNCZ;
+  CText THIS, FUNCX, FUNCY, FUNCZ;
   double SCALEX = 0, ATIMEX = 0, SCALEY = 0, ATIMEY = 0, SCALEZ = 0, ATIMEZ = 0, ANGLE = 0;
 };
 
 /// A row of *DYN-SLOAD.
 struct TvtDynSloadRec {
-  std::string THIS, SLOAD, FUNC;
+  CText THIS, SLOAD, FUNC;
   double ATIME = 0, SCALE = 0;
 };

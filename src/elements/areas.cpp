@@ -31,7 +31,10 @@ int CElements::ConvertAreas() {
     std::string section;
     FindAreaSectionName(row.Area, 2, section);
     int iPRO = rec.iPRO, iMAT = rec.iMAT, iSUB = 1;
-    if (FindAreaSectionData(section, row, iPRO, iMAT, iSUB, rec.TYPE)) {
+    std::string type = rec.TYPE;
+    const int found = FindAreaSectionData(section, row, iPRO, iMAT, iSUB, type);
+    rec.TYPE = type;
+    if (found) {
       rec.iPRO = iPRO;
       rec.iMAT = iMAT;
       rec.iSUB = iSUB;
@@ -126,7 +129,7 @@ int CElements::FindAreaSectionData(const std::string& section, const S2kConnecti
 // Both tests use Y, whatever plane the model lies in.
 int CElements::IsFlatInY(const S2kConnectivityAreaRow& area) {
   double x, y[4], z;
-  const std::string* joints[4] = {&area.Joint1, &area.Joint2, &area.Joint3, &area.Joint4};
+  const CText* joints[4] = {&area.Joint1, &area.Joint2, &area.Joint3, &area.Joint4};
   for (int k = 0; k < 4; ++k) engine.Get<CGeometry>().FindJointGlobalCoordinates(*joints[k], x, y[k], z);
   for (int k = 1; k < 4; ++k)
     if (std::fabs(y[0] - y[k]) > 0.0) return 0;

@@ -1,6 +1,7 @@
 // Rows, records and tables of frames, areas, solids, thickness, end offsets and releases.
 #pragma once
 
+#include "s2k/text.h"
 #include <string>
 
 #include "s2k/keyed_table.h"
@@ -9,48 +10,48 @@
 
 /// Table 202: a frame and its two joints.
 struct S2kConnectivityFrameRow {
-  std::string Frame, JointI, JointJ;
+  CText Frame, JointI, JointJ;
   double Length = 0;
 };
 
 /// Table 201: an area and its four corners, listed crosswise.
 struct S2kConnectivityAreaRow {
-  std::string Area, Joint1, Joint2, Joint3, Joint4;
+  CText Area, Joint1, Joint2, Joint3, Joint4;
   double AreaArea = 0, Volume = 0;
 };
 
 /// Table 204: a solid and its eight corners.
 struct S2kConnectivitySolidRow {
-  std::string Solid, Joint1, Joint2, Joint3, Joint4, Joint5, Joint6, Joint7, Joint8;
+  CText Solid, Joint1, Joint2, Joint3, Joint4, Joint5, Joint6, Joint7, Joint8;
   double Volume = 0;
 };
 
 /// Table 239: the beta angle of a frame.
 struct S2kFrameLocalAxes1Row {
-  std::string Frame;
+  CText Frame;
   double Angle = 0;
   int MirrorAbt2 = 0, MirrorAbt3 = 0, AdvanceAxes = 0;
 };
 
 /// Table 240: advanced local axes of a frame.
 struct S2kFrameLocalAxes2Row {
-  std::string Frame, LocalPlan, PlOption1, PlCoordSys, CoordDir1, CoordDir2, PlVecJt1, PlVecJt2;
+  CText Frame, LocalPlan, PlOption1, PlCoordSys, CoordDir1, CoordDir2, PlVecJt1, PlVecJt2;
   double PlVecX = 0, PlVecY = 0, PlVecZ = 0;
 };
 
 /// Table 125: the section of an area.
 struct S2kAreaSectionAssignRow {
-  std::string Area, Section, MatProp;
+  CText Area, Section, MatProp;
 };
 
 /// Table 126: an area section.
 struct S2kAreaSectionRow {
-  std::string Section, Material;
+  CText Section, Material;
   double MatAngle = 0;
-  std::string AreaType, Type;
+  CText AreaType, Type;
   double Thickness = 0, BendThick = 0, Arc = 0;
   int InComp = 0;
-  std::string CoordSys, Color;
+  CText CoordSys, Color;
   double TotalWt = 0, TotalMass = 0;
   double F11Mod = 0, F22Mod = 0, F12Mod = 0, M11Mod = 0, M22Mod = 0, M12Mod = 0, V13Mod = 0, V23Mode = 0,
          MMod = 0, WMod = 0;
@@ -58,35 +59,35 @@ struct S2kAreaSectionRow {
 
 /// Table 489: the property of a solid.
 struct S2kSolidPropAssignRow {
-  std::string Solid, SolidProp;
+  CText Solid, SolidProp;
 };
 
 /// Table 490: a solid property.
 struct S2kSolidPropRow {
-  std::string SolidProp, Material;
+  CText SolidProp, Material;
   double MatAngleA = 0, MatAngleB = 0, MatAngleC = 0;
   int InComp = 0;
-  std::string Color;
+  CText Color;
   double TotalWt = 0, TotalMass = 0;
 };
 
 /// Table 505: stored, not converted.
 struct S2kSolidSummaryRow {
-  std::string Solid, SolidProp, Springs, AutoMesh;
+  CText Solid, SolidProp, Springs, AutoMesh;
   double MatTemp = 0;
-  std::string GravLoads, SPresLoads, PPresLoads, TempLoads;
+  CText GravLoads, SPresLoads, PPresLoads, TempLoads;
   double RefTemp = 0, Volume = 0, CentroidX = 0, CentroidY = 0, CentroidZ = 0;
 };
 
 /// Table 243: rigid end zones.
 struct S2kFrameOffsetRow {
-  std::string Frame, Type;
+  CText Frame, Type;
   double LengthI = 0, LengthJ = 0, RigidFactor = 0;
 };
 
 /// Table 250: end releases, source order P, V2, V3, T, M2, M3.
 struct S2kFrameReleaseRow {
-  std::string Frame;
+  CText Frame;
   int PI = 0, V2I = 0, V3I = 0, TI = 0, M2I = 0, M3I = 0;
   int PJ = 0, V2J = 0, V3J = 0, TJ = 0, M2J = 0, M3J = 0;
   int PartialFix = 0;
@@ -94,7 +95,7 @@ struct S2kFrameReleaseRow {
 
 /// Table 251: partial fixity springs of released ends.
 struct S2kFramePartialFixRow {
-  std::string Frame;
+  CText Frame;
   double PI = 0, V2I = 0, V3I = 0, TI = 0, M2I = 0, M3I = 0;
   double PJ = 0, V2J = 0, V3J = 0, TJ = 0, M2J = 0, M3J = 0;
 };
@@ -143,57 +144,57 @@ struct ElementRunFlags {
 
 /// A frame line of *ELEMENT; joints stay names until written.
 struct TvtFrameElementRec {
-  std::string iEL = "1";
-  std::string TYPE;
+  CText iEL = "1";
+  CText TYPE;
   int reserved = 0;
   int iMAT = 1;
   int iPRO = 1;
   double ANGLE = 0;
-  std::string iN1, iN2;
+  CText iN1, iN2;
   int reserved2 = 0;
 };
 
 /// A plate line of *ELEMENT.
 struct TvtPlateElementRec {
-  std::string iEL = "1";
-  std::string TYPE;
+  CText iEL = "1";
+  CText TYPE;
   int iMAT = 1;
   int iPRO = 1;
   double unused = 0;
-  std::string iN1, iN2, iN3, iN4;
+  CText iN1, iN2, iN3, iN4;
   int iSUB = 1;
   int reserved = 0;
 };
 
 /// A solid line of *ELEMENT.
 struct TvtSolidElementRec {
-  std::string iEL;
-  std::string TYPE;
+  CText iEL;
+  CText TYPE;
   int iMAT = 0;
   int iPRO = 0;
   double unused = 0;
-  std::string iN1, iN2, iN3, iN4, iN5, iN6, iN7, iN8;
+  CText iN1, iN2, iN3, iN4, iN5, iN6, iN7, iN8;
 };
 
 /// A line of *THICKNESS, keyed by iTHK.
 struct TvtThicknessRec {
-  std::string TYPE;
-  std::string bSAME;
+  CText TYPE;
+  CText bSAME;
   double THIK_IN = 0;
   double THIK_OUT = 0;
 };
 
 /// A line of *OFFSET. TYPE "ELEMENT" holds RGDi in RGDXi and RGDj in RGDXj.
 struct TvtOffsetRec {
-  std::string ELEM_LIST;
-  std::string TYPE;
+  CText ELEM_LIST;
+  CText TYPE;
   double RGDXi = 0, RGDYi = 0, RGDZi = 0, RGDXj = 0, RGDYj = 0, RGDZj = 0;
 };
 
 /// The two lines of a frame in *FRAME-RLS; flags in target order Fx, Fy, Fz, Mx, My, Mz.
 struct TvtFrameRlsRec {
-  std::string ELEM_LIST;
-  std::string FLAG_i, FLAG_j;
+  CText ELEM_LIST;
+  CText FLAG_i, FLAG_j;
   double Fxi = 0, Fyi = 0, Fzi = 0, Mxi = 0, Myi = 0, Mzi = 0;
   double Fxj = 0, Fyj = 0, Fzj = 0, Mxj = 0, Myj = 0, Mzj = 0;
 };
@@ -202,8 +203,8 @@ struct TvtFrameRlsRec {
 struct TvtElementMapEntry {
   int iEL = 0;
   int number = 0;
-  std::string name;
-  std::string kind;  ///< "FRAME", "AREA" or "SOLID"
+  CText name;
+  CText kind;  ///< "FRAME", "AREA" or "SOLID"
 };
 
 struct TvtElementTables {

@@ -221,8 +221,8 @@ void CElements::WriteSolidLines(int frames, int areas, int solids) {
     else
       number = ParseInt(rec->iEL);
     int n[8] = {};
-    const std::string* joints[8] = {&rec->iN1, &rec->iN2, &rec->iN3, &rec->iN4,
-                                    &rec->iN5, &rec->iN6, &rec->iN7, &rec->iN8};
+    const CText* joints[8] = {&rec->iN1, &rec->iN2, &rec->iN3, &rec->iN4,
+                              &rec->iN5, &rec->iN6, &rec->iN7, &rec->iN8};
     for (int k = 0; k < 8; ++k) engine.Get<CGeometry>().ResolveNodeNumber(*joints[k], n[k]);
     const char* type = rec->TYPE.c_str();
     if (solidNodeCount == 8)

@@ -1,6 +1,7 @@
 // Rows, records and tables of materials, frame sections and nonprismatic sections.
 #pragma once
 
+#include "s2k/text.h"
 #include <string>
 #include <unordered_map>
 #include <vector>
@@ -12,21 +13,21 @@
 
 /// Table 381: one material.
 struct S2kMaterial1Row {
-  std::string Material;
-  std::string Type;
-  std::string DesignType;
+  CText Material;
+  CText Type;
+  CText DesignType;
   double UnitMass = 0;
   double UnitWeight = 0;
   double E = 0;
   double U = 0;
   double A = 0;
   int NumAdvance = 0;
-  std::string Color;
+  CText Color;
 };
 
 /// Table 382: the axis-wise constants of a material, one row per temperature.
 struct S2kMaterial2Row {
-  std::string Material;
+  CText Material;
   double Temp = 0;
   double E1 = 0, E2 = 0, E3 = 0;
   double G12 = 0, G13 = 0, G23 = 0;
@@ -40,56 +41,56 @@ struct S2kMaterial2Row {
 
 /// Table 253: one frame section.
 struct S2kFrameSectionRow {
-  std::string SectionName;
-  std::string Material;
-  std::string Shape;
+  CText SectionName;
+  CText Material;
+  CText Shape;
   double t3 = 0, t2 = 0, tf = 0, tw = 0, t2b = 0, tfb = 0, dis = 0;
   double Area = 0;
   double TorsConst = 0;
   double I33 = 0, I22 = 0;
   double AS2 = 0, AS3 = 0;
   double S33 = 0, S22 = 0, Z33 = 0, Z22 = 0, R33 = 0, R22 = 0;
-  std::string Color;
+  CText Color;
   double TotalWt = 0, TotalMass = 0;
   double AMod = 0, A2Mod = 0, A3Mod = 0, JMod = 0, I2Mod = 0, I3Mod = 0, MMod = 0, WMod = 0;
-  std::string SectInFile;
-  std::string FileName;
+  CText SectInFile;
+  CText FileName;
 };
 
 /// Table 252: the section of one frame.
 struct S2kFrameSectionAssignRow {
-  std::string Frame;
-  std::string SectionType;
-  std::string AutoSelect;
-  std::string AnalSect;
-  std::string DesignSect;
-  std::string MatProp;
+  CText Frame;
+  CText SectionType;
+  CText AutoSelect;
+  CText AnalSect;
+  CText DesignSect;
+  CText MatProp;
 };
 
 /// Table 248: per-frame modifiers, stored only.
 struct S2kFrameModifiersRow {
-  std::string Frame;
+  CText Frame;
   double AMod = 0, AS2Mod = 0, AS3Mod = 0, JMod = 0, I22Mod = 0, I33Mod = 0, MassMod = 0, WeightMod = 0;
 };
 
 /// Table 257: one segment of a nonprismatic section.
 struct S2kFrameNonprismaticRow {
-  std::string SectionName;
+  CText SectionName;
   int NumSegments = 0;
   int SegmentNum = 0;
-  std::string StartSect;
-  std::string EndSect;
-  std::string LengthType;
+  CText StartSect;
+  CText EndSect;
+  CText LengthType;
   double AbsLength = 0, VarLength = 0;
-  std::string EI33Var;
-  std::string EI22Var;
+  CText EI33Var;
+  CText EI22Var;
 };
 
 /// Table 234: the insertion point and joint offsets of one frame.
 struct S2kFrameInsertionRow {
-  std::string Frame;
-  std::string CardinalPt;
-  std::string CoordSys;
+  CText Frame;
+  CText CardinalPt;
+  CText CoordSys;
   double JtOffsetXI = 0, JtOffsetYI = 0, JtOffsetZI = 0;
   double JtOffsetXJ = 0, JtOffsetYJ = 0, JtOffsetZJ = 0;
 };
@@ -118,8 +119,8 @@ struct S2kPropertyTables {
 
 /// A line of *MATERIAL; kind 1 isotropic, 2 orthotropic.
 struct TvtMaterialRec {
-  std::string TYPE = "USER";
-  std::string MNAME;
+  CText TYPE = "USER";
+  CText MNAME;
   int kind = 1;
   double SPHEAT = 0, HEATCO = 0;
   double ELAST = 0, POISN = 0, THERMAL = 0;
@@ -133,17 +134,17 @@ struct TvtMaterialRec {
 /// A line, or the lines, of *SECTION. Index 0 is the section or a taper's
 /// start, index 1 a taper's end.
 struct TvtSectionRec {
-  std::string TYPE = "DBUSER";
-  std::string SNAME;
-  std::string OFFSET = "CC";
-  std::string SHAPE = "SB";
+  CText TYPE = "DBUSER";
+  CText SNAME;
+  CText OFFSET = "CC";
+  CText SHAPE = "SB";
   int BLT = 2;
   double D[12] = {};
   double AREA[2] = {}, ASy[2] = {}, ASz[2] = {}, Ixx[2] = {}, Iyy[2] = {}, Izz[2] = {};
   double CyP[2] = {}, CyM[2] = {}, CzP[2] = {}, CzM[2] = {}, QyB[2] = {}, QzB[2] = {};
   double PERI_OUT[2] = {}, PERI_IN[2] = {}, Cy[2] = {}, Cz[2] = {};
   int iyVAR = 1, izVAR = 1;
-  std::string STYPE = "USER";
+  CText STYPE = "USER";
 };
 
 /// A line of *SECT-SCALE.

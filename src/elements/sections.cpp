@@ -146,7 +146,9 @@ int CProperties::ConvertFrameSections() {
       }
     }
     rec.SNAME = row.SectionName;
-    FindSectionOffsetCode(rec.SNAME, rec.OFFSET);
+    std::string offset = rec.OFFSET;
+    FindSectionOffsetCode(rec.SNAME, offset);
+    rec.OFFSET = offset;
     ok = target_.Sections.SetAt(key, rec);
   });
   return ok;

@@ -1,21 +1,22 @@
 // Rows, records and tables of joint, coupled, frame and area springs.
 #pragma once
 
+#include "s2k/text.h"
 #include <string>
 
 #include "s2k/keyed_table.h"
 
 /// Table 342: a joint's six uncoupled stiffnesses.
 struct S2kJointSpringRow {
-  std::string Joint;
-  std::string CoordSys;
+  CText Joint;
+  CText CoordSys;
   double U1 = 0, U2 = 0, U3 = 0, R1 = 0, R2 = 0, R3 = 0;
 };
 
 /// Table 343: the 18 terms of a coupled joint spring.
 struct S2kJointCoupledSpringRow {
-  std::string Joint;
-  std::string CoordSys;
+  CText Joint;
+  CText CoordSys;
   double U1 = 0, U1U2 = 0, U2 = 0, U1U3 = 0, U2U3 = 0, U3 = 0;
   double U1R1 = 0, U2R1 = 0, U3R1 = 0, R1 = 0;
   double U1R2 = 0, U2R2 = 0, U3R2 = 0, R2 = 0;
@@ -24,30 +25,30 @@ struct S2kJointCoupledSpringRow {
 
 /// Table 258: a line spring along a frame.
 struct S2kFrameSpringRow {
-  std::string Frame;
-  std::string Dir;
+  CText Frame;
+  CText Dir;
   double Stiffness = 0;
 };
 
 /// Table 127: a spring on a face of an area.
 struct S2kAreaSpringRow {
-  std::string Area;
-  std::string Face;
-  std::string Dir;
+  CText Area;
+  CText Face;
+  CText Dir;
   double Stiffness = 0;
 };
 
 /// A row of *SPRING.
 struct TvtSpringRec {
-  std::string NODE_LIST;
+  CText NODE_LIST;
   double SDx = 0, SDy = 0, SDz = 0, SRx = 0, SRy = 0, SRz = 0;
 };
 
 /// A row of *GSPRING and its *GSPRTYPE: the upper triangle of the 6 by 6
 /// stiffness, column by column.
 struct TvtGspringRec {
-  std::string NODE_LIST;
-  std::string TYPE_NAME;
+  CText NODE_LIST;
+  CText TYPE_NAME;
   double Terms[21] = {};
 };
 

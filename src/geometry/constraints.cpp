@@ -15,7 +15,10 @@ template <class Row, class DofOf>
 void CGeometry::MakeRigidLink(const std::string& name, Kind kind, const CKeyedTable<Row>& definitions,
                    const CNameIndex<Row>& index, int& counter, DofOf dofOf) {
   TvtRigidlinkRec rec;
-  if (!CollectConstraintJoints(name, kind, rec.M_NODE, rec.S_NODE_LIST)) return;
+  std::string master, slaves;
+  if (!CollectConstraintJoints(name, kind, master, slaves)) return;
+  rec.M_NODE = master;
+  rec.S_NODE_LIST = slaves;
   if (definitions.Empty()) return;
   const Row* row = index.Find(definitions, name);
   if (row && !dofOf(*row, rec.DOF)) return;
@@ -27,7 +30,7 @@ void CGeometry::MakeRigidLink(const std::string& name, Kind kind, const CKeyedTa
 template <class Row>
 void CGeometry::MakeAxisLink(const std::string& name, Kind kind, const CKeyedTable<Row>& definitions,
                   const CNameIndex<Row>& index, int& counter) {
-  MakeRigidLink(name, kind, definitions, index, counter, [&](const Row& row, std::string& dof) {
+  MakeRigidLink(name, kind, definitions, index, counter, [&](const Row& row, CText& dof) {
     if (row.Axis == "X")
       dof = "011100";
     else if (row.Axis == "Y")
@@ -43,7 +46,7 @@ void CGeometry::MakeAxisLink(const std::string& name, Kind kind, const CKeyedTab
 void CGeometry::MakeDofLink(const std::string& name, const CKeyedTable<S2kConstraintBodyRow>& definitions,
                             const CNameIndex<S2kConstraintBodyRow>& index, int& counter) {
   MakeRigidLink(name, Kind::FirstMember, definitions, index, counter,
-                [](const S2kConstraintBodyRow& row, std::string& dof) {
+                [](const S2kConstraintBodyRow& row, CText& dof) {
                   for (int flag : {row.UX, row.UY, row.UZ, row.RX, row.RY, row.RZ}) dof += flag ? '1' : '0';
                   return true;
                 });

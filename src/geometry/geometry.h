@@ -20,7 +20,7 @@ class CGeometry : public CSubject {
   /// A temperature of the model's unit in Celsius; 0 for an unknown unit.
   double ToCelsius(double value) const;
   /// The temperature word of table 108, as it stands.
-  const std::string& TemperatureUnit() const { return source_.TemperatureUnit; }
+  const CText& TemperatureUnit() const { return source_.TemperatureUnit; }
   /// *VERSION and *UNIT.
   int WriteVersionAndUnits();
 

@@ -2,6 +2,7 @@
 // local axes.
 #pragma once
 
+#include "s2k/text.h"
 #include <string>
 #include <unordered_map>
 
@@ -10,14 +11,14 @@
 
 /// Table 104: the first coordinate system of the file.
 struct S2kCoordinateSystemRec {
-  std::string Name = "GLOBAL";
-  std::string Type = "Cartesian";
+  CText Name = "GLOBAL";
+  CText Type = "Cartesian";
   double X = 0, Y = 0, Z = 0, AboutZ = 0, AboutY = 0, AboutX = 0;
 };
 
 /// Table 333.
 struct S2kJointCoordinatesRow {
-  std::string Joint, CoordSys, CoordType;
+  CText Joint, CoordSys, CoordType;
   double XorR = 0, Y = 0, Z = 0, T = 0;
   int SpecialJt = 0;
   double GlobalX = 0, GlobalY = 0, GlobalZ = 0;
@@ -25,31 +26,31 @@ struct S2kJointCoordinatesRow {
 
 /// Table 341: flags set where the joint is held.
 struct S2kJointRestraintAssignmentsRow {
-  std::string Joint;
+  CText Joint;
   int U1 = 0, U2 = 0, U3 = 0, R1 = 0, R2 = 0, R3 = 0;
 };
 
 /// Table 332: which constraint a joint belongs to.
 struct S2kJointConstraintAssignmentsRow {
-  std::string Joint, Constraint, Type;
+  CText Joint, Constraint, Type;
 };
 
 /// Tables 211, 217, 218: constraints about one axis.
 struct S2kConstraintBeamRow {
-  std::string Name, CoordSys, Axis;
+  CText Name, CoordSys, Axis;
 };
 using S2kConstraintPlateRow = S2kConstraintBeamRow;
 using S2kConstraintRodRow = S2kConstraintBeamRow;
 
 /// Table 213.
 struct S2kConstraintDiaphragmRow {
-  std::string Name, CoordSys, Axis;
+  CText Name, CoordSys, Axis;
   int MultiLevel = 0;
 };
 
 /// Tables 212, 214, 215, 219: constraints by degrees of freedom.
 struct S2kConstraintBodyRow {
-  std::string Name, CoordSys;
+  CText Name, CoordSys;
   int UX = 0, UY = 0, UZ = 0, RX = 0, RY = 0, RZ = 0;
 };
 using S2kConstraintEqualRow = S2kConstraintBodyRow;
@@ -58,14 +59,14 @@ using S2kConstraintWeldRow = S2kConstraintBodyRow;
 
 /// Table 336: local axes by three angles in degrees.
 struct S2kJointLocalAxes1Row {
-  std::string Joint;
+  CText Joint;
   double AngleA = 0, AngleB = 0, AngleC = 0;
   int AdvanceAxes = 0;
 };
 
 /// Table 337: local axes by an axis and a plane.
 struct S2kJointLocalAxes2Row {
-  std::string Joint, LocalPlane, AxOption1, AxCoordSys, AxCoordDir, AxVecJt1, AxVecJt2, PlOption1, PlCoordSys,
+  CText Joint, LocalPlane, AxOption1, AxCoordSys, AxCoordDir, AxVecJt1, AxVecJt2, PlOption1, PlCoordSys,
       CoordDir1, CoordDir2, PlVecJt1, PlVecJt2;
   double AxVecX = 0, AxVecY = 0, AxVecZ = 0, PlVecX = 0, PlVecY = 0, PlVecZ = 0;
 };
@@ -88,7 +89,7 @@ struct S2kGeometryTables {
   }
 
   /// Units of table 108; empty when the file has none.
-  std::string ForceUnit, LengthUnit, TemperatureUnit;
+  CText ForceUnit, LengthUnit, TemperatureUnit;
   S2kCoordinateSystemRec CoordinateSystem;  // 104
 
   CKeyedTable<S2kJointConstraintAssignmentsRow> JointConstraintAssignments;        // 332
@@ -123,7 +124,7 @@ struct GeometryRunFlags {};
 
 /// A row of *NODE.
 struct TvtNodeRec {
-  std::string Name;
+  CText Name;
   double X = 0, Y = 0, Z = 0;
 };
 
@@ -131,22 +132,22 @@ struct TvtNodeRec {
 struct TvtJointNumberRec {
   int iNO = 0;
   int number = 0;
-  std::string Joint;
+  CText Joint;
 };
 
 /// A row of *CONSTRAINT: CONST holds "0" or "1" for U1, U2, U3, R1, R2, R3.
 struct TvtConstraintRec {
-  std::string NODE_LIST, CONST;
+  CText NODE_LIST, CONST;
 };
 
 /// A row of *RIGIDLINK. Node texts go out as they were stored.
 struct TvtRigidlinkRec {
-  std::string Reserved, M_NODE, DOF, S_NODE_LIST, GROUP;
+  CText Reserved, M_NODE, DOF, S_NODE_LIST, GROUP;
 };
 
 /// A row of *LOCALAXIS: iMETHOD 1 by angles, 3 by two vectors.
 struct TvtLocalAxisRec {
-  std::string NODE_LIST;
+  CText NODE_LIST;
   int iMETHOD = 1;
   double ANGLE_x = 0, ANGLE_y = 0, ANGLE_z = 0;
   double P0X = 0, P0Y = 0, P0Z = 0, P1X = 0, P1Y = 0, P1Z = 0, P2X = 0, P2Y = 0, P2Z = 0;
@@ -155,7 +156,7 @@ struct TvtLocalAxisRec {
 
 /// A joint's local axes: the columns of M are axes 1, 2, 3 in global axes.
 struct TvtJointRotationRec {
-  std::string Joint;
+  CText Joint;
   double M[3][3] = {{1, 0, 0}, {0, 1, 0}, {0, 0, 1}};
 };
 

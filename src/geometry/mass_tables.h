@@ -1,6 +1,7 @@
 // Rows, records and tables of joint, frame and area masses.
 #pragma once
 
+#include "s2k/text.h"
 #include <string>
 #include <unordered_map>
 
@@ -8,25 +9,25 @@
 
 /// Table 331: masses added at joints.
 struct S2kJointMassRow {
-  std::string Joint, CoordSys;
+  CText Joint, CoordSys;
   double Mass1 = 0, Mass2 = 0, Mass3 = 0, MMI1 = 0, MMI2 = 0, MMI3 = 0;
 };
 
 /// Table 231: mass per length of a frame.
 struct S2kFrameMassRow {
-  std::string Frame;
+  CText Frame;
   double MassPerLen = 0;
 };
 
 /// Table 111: mass per area of an area object.
 struct S2kAreaMassRow {
-  std::string Area;
+  CText Area;
   double MassPerArea = 0;
 };
 
 /// A row of *NODALMASS: one joint's lumped masses.
 struct TvtNodalmassRec {
-  std::string NODE_LIST;
+  CText NODE_LIST;
   double mX = 0, mY = 0, mZ = 0, rmX = 0, rmY = 0, rmZ = 0;
 };
 

@@ -68,8 +68,8 @@ int CMasses::ConvertJointMasses() {
   return 1;
 }
 
-int CMasses::LumpNodalMass(std::initializer_list<const std::string*> joints, double m) {
-  for (const std::string* joint : joints)
+int CMasses::LumpNodalMass(std::initializer_list<const CText*> joints, double m) {
+  for (const CText* joint : joints)
     if (!AddNodalMass({*joint, m, m, m, 0, 0, 0})) return 0;
   return 1;
 }

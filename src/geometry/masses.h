@@ -20,7 +20,7 @@ class CMasses : public CSubject {
   /// Merges \p record into the nodal mass of its joint. \returns the insert's result.
   int AddNodalMass(TvtNodalmassRec record);
   /// Adds \p m to the three masses of each joint of \p joints, in order.
-  int LumpNodalMass(std::initializer_list<const std::string*> joints, double m);
+  int LumpNodalMass(std::initializer_list<const CText*> joints, double m);
   int ConvertJointMasses();
   int ConvertFrameMasses();
   int ConvertAreaMasses();

@@ -16,7 +16,7 @@
 /// \returns 1.
 template <class Rec, class WriteRow>
 int WriteCaseBlock(CS2kConverter& engine, const std::string& loadCase, const char* header, const char* comment,
-                   const CKeyedTable<Rec>& table, std::string Rec::*caseName, WriteRow writeRow,
+                   const CKeyedTable<Rec>& table, CText Rec::*caseName, WriteRow writeRow,
                    CaseBlockOrder order = CaseBlockOrder::Walk) {
   if (table.Empty()) return 1;
   static const Rec kEmpty{};

@@ -196,7 +196,7 @@ void CFrameLoads::GetUnitWeightTimesArea(const std::string& Section, int /*Phase
   // A tapered section weighs as its two end sections; without a row of
   // its own both ends are sections of no name.
   const S2kFrameNonprismaticRow* taper = NonprismaticRow(engine, Section);
-  const std::string noName;
+  const CText noName;
   WeightI = WeightTimesArea(engine, SectionRow(engine, taper ? taper->StartSect : noName));
   WeightJ = WeightTimesArea(engine, SectionRow(engine, taper ? taper->EndSect : noName));
   bNonprismatic = 1;

@@ -73,7 +73,7 @@ int CLoadCases::ConvertStaticCase(const std::string& Case, const std::string& /*
   return 1;
 }
 
-int CLoadCases::GetLoadCaseType(const std::string& LoadName, std::string& LCTYPE, int& bAutoLoad) {
+int CLoadCases::GetLoadCaseType(const std::string& LoadName, CText& LCTYPE, int& bAutoLoad) {
   const S2kLoadRow* row = loadNames_.Find(loads_, LoadName);
   if (!row) return 0;
   bAutoLoad = 0;

@@ -32,7 +32,7 @@ class CLoadCases : public CSubject {
   /// The load type of pattern \p LoadName, converting its automatic wind or
   /// seismic load on the way. \returns 1 when the pattern exists; else the
   /// outputs stay as they were.
-  int GetLoadCaseType(const std::string& LoadName, std::string& LCTYPE, int& bAutoLoad);
+  int GetLoadCaseType(const std::string& LoadName, CText& LCTYPE, int& bAutoLoad);
   /// \returns 1 when a *STLDCASE row bears the name \p Name.
   int IsStaticLoadCase(const std::string& Name) const { return staticCaseRows_.FindKey(staticCases_, Name) != 0; }
 

@@ -61,7 +61,7 @@ int CPrestressLoads::ParseFramePDelta() { return engine.ParseRows(kFramePDeltaKe
 int CPrestressLoads::ParseFramePatterns() { return engine.ParseRows(kFramePatternsKeys, tendons_); }
 int CPrestressLoads::ParseFrameMultipliers() { return engine.ParseRows(kFrameMultipliersKeys, multipliers_); }
 
-void CPrestressLoads::GetFrameTendonCase(const std::string& Frame, std::string& LCNAME, double& Multiplier) const {
+void CPrestressLoads::GetFrameTendonCase(const std::string& Frame, CText& LCNAME, double& Multiplier) const {
   const S2kFrameMultipliersRow* row = multiplierFrames_.Find(multipliers_, Frame);
   if (!row) return;
   LCNAME = row->LoadCase;

@@ -23,7 +23,7 @@ class CPrestressLoads : public CSubject {
   int ConvertFrameInitialForces();
   /// The case and factor of the first multiplier row of \p Frame; both left
   /// as they were when there is none.
-  void GetFrameTendonCase(const std::string& Frame, std::string& LCNAME, double& Multiplier) const;
+  void GetFrameTendonCase(const std::string& Frame, CText& LCNAME, double& Multiplier) const;
 
   /// The *PRESTRESS block of \p loadCase, in the order of the keys.
   int WritePrestress(const std::string& loadCase);

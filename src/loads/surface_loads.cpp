@@ -118,7 +118,7 @@ void CSurfaceLoads::ApplyAreaJointPattern(const std::string& Area, const std::st
   if (!area) return;
   CTemperatureLoads& patterns = engine.Get<CTemperatureLoads>();
   double v[4] = {0, 0, 0, 0};
-  const std::string* joints[4] = {&area->Joint1, &area->Joint2, &area->Joint3, &area->Joint4};
+  const CText* joints[4] = {&area->Joint1, &area->Joint2, &area->Joint3, &area->Joint4};
   for (int i = 0; i < 4; ++i) patterns.GetJointPatternValue(*joints[i], Pattern, v[i]);
   record.P1 = PU * v[0];
   record.P2 = PU * v[1];

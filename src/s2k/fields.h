@@ -8,6 +8,7 @@
 #include "s2k/keyed_table.h"
 #include "s2k/keys.h"
 #include "s2k/numbers.h"
+#include "s2k/text.h"
 
 enum class S2kFieldKind { Text, Number, Integer, Flag };
 
@@ -15,13 +16,13 @@ template <class Row>
 struct S2kField {
   std::string_view Key;
   S2kFieldKind Kind;
-  std::string Row::*Text = nullptr;
+  CText Row::*Text = nullptr;
   double Row::*Number = nullptr;
   int Row::*Integer = nullptr;  // Integer (a number cut to 32 bits) and Flag ("Yes")
 };
 
 template <class Row>
-constexpr S2kField<Row> TextKey(std::string_view key, std::string Row::*field) {
+constexpr S2kField<Row> TextKey(std::string_view key, CText Row::*field) {
   return {key, S2kFieldKind::Text, field, nullptr, nullptr};
 }
 template <class Row>
@@ -39,8 +40,9 @@ constexpr S2kField<Row> FlagKey(std::string_view key, int Row::*field) {
 
 /// Reads one key into its field: item 0 of the list when the key is there
 /// and the list isn't empty; otherwise the field keeps what it had.
+/// A text equal to the one of \p previous shares its storage.
 template <class Row>
-void ReadField(const S2kRowText& rowText, const S2kField<Row>& field, Row& row) {
+void ReadField(const S2kRowText& rowText, const S2kField<Row>& field, Row& row, const Row* previous = nullptr) {
   switch (field.Kind) {
     case S2kFieldKind::Number:
     case S2kFieldKind::Integer: {
@@ -53,9 +55,16 @@ void ReadField(const S2kRowText& rowText, const S2kField<Row>& field, Row& row) 
       }
       return;
     }
-    case S2kFieldKind::Text:
-      ReadFirstText(rowText, field.Key, row.*field.Text);
+    case S2kFieldKind::Text: {
+      thread_local std::string value;
+      if (!ReadFirstText(rowText, field.Key, value)) return;
+      // The last row's text again (a section, a material, a type) is shared.
+      if (previous && previous->*field.Text == value)
+        row.*field.Text = previous->*field.Text;
+      else
+        row.*field.Text = value;
       return;
+    }
     case S2kFieldKind::Flag: {
       std::string value;
       if (ReadFirstText(rowText, field.Key, value)) row.*field.Integer = IsYes(value);
@@ -71,9 +80,10 @@ void ReadField(const std::string& rowText, const S2kField<Row>& field, Row& row)
 
 /// Reads every key of \p fields, in their order, into \p row.
 template <class Row, std::size_t N>
-void ReadFields(const std::string& rowText, const S2kField<Row> (&fields)[N], Row& row) {
+void ReadFields(const std::string& rowText, const S2kField<Row> (&fields)[N], Row& row,
+                const Row* previous = nullptr) {
   const S2kRowText text(rowText);
-  for (const S2kField<Row>& field : fields) ReadField(text, field, row);
+  for (const S2kField<Row>& field : fields) ReadField(text, field, row, previous);
 }
 
 /// The row parser of every plain table: row i (from 0) goes under key i + 1,
@@ -82,11 +92,13 @@ void ReadFields(const std::string& rowText, const S2kField<Row> (&fields)[N], Ro
 template <class Row, std::size_t N, class Special>
 int ParseRows(const std::vector<std::string>& rows, const S2kField<Row> (&fields)[N],
               CKeyedTable<Row>& table, Special&& special) {
+  const Row* previous = nullptr;
   for (std::size_t i = 0; i < rows.size(); ++i) {
     Row row{};
-    ReadFields(rows[i], fields, row);
+    ReadFields(rows[i], fields, row, previous);
     if (!special(rows[i], row)) return 0;
     if (!table.SetAt(static_cast<int>(i + 1), std::move(row))) return 0;
+    previous = table.Lookup(static_cast<int>(i + 1));
   }
   return 1;
 }

@@ -89,6 +89,12 @@ void UpperCase(std::string& text) {
   for (char& c : text) c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
 }
 
+void UpperCase(CText& text) {
+  std::string upper = text;
+  UpperCase(upper);
+  text = upper;
+}
+
 bool StartsWith(std::string_view text, std::string_view prefix) {
   return text.substr(0, prefix.size()) == prefix;
 }

@@ -6,6 +6,8 @@
 #include <string_view>
 #include <vector>
 
+#include "s2k/text.h"
+
 /// Trims \p line; cuts it at the first " _" anywhere. \returns 1 when the
 /// row goes on in the next line.
 int TrimRowLine(std::string& line);
@@ -50,4 +52,5 @@ int IsDigit(char ch);
 
 /// Upper-cases ASCII letters in place.
 void UpperCase(std::string& text);
+void UpperCase(CText& text);
 bool StartsWith(std::string_view text, std::string_view prefix);

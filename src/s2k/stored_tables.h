@@ -2,30 +2,31 @@
 // table of the format is read whole.
 #pragma once
 
+#include "s2k/text.h"
 #include <string>
 
 #include "frame/subject.h"
 #include "s2k/keyed_table.h"
 
 struct S2kAreaRotateLoadRow {
-  std::string Area;
-  std::string LoadCase;
+  CText Area;
+  CText LoadCase;
   double AngularBel = 0;
 };
 
 struct S2kAreaUniformToFrameLoadRow {
-  std::string Area;
-  std::string LoadCase;
-  std::string CoordSys;
-  std::string Dir;
+  CText Area;
+  CText LoadCase;
+  CText CoordSys;
+  CText Dir;
   double UnifLoad = 0;
-  std::string DistType;
+  CText DistType;
 };
 
 struct S2kAreaWindCoefficientRow {
-  std::string Area;
-  std::string LoadCase;
-  std::string Windward;
+  CText Area;
+  CText LoadCase;
+  CText Windward;
   double Cp = 0;
   double XComponent = 0;
   double YComponent = 0;
@@ -33,36 +34,36 @@ struct S2kAreaWindCoefficientRow {
 };
 
 struct S2kAreaMaterialTemperatureRow {
-  std::string Area;
+  CText Area;
   double Temp = 0;
-  std::string JtPattern;
+  CText JtPattern;
 };
 
 struct S2kCaseModalLoadRow {
-  std::string Case;
-  std::string LoadType;
-  std::string LoadName;
+  CText Case;
+  CText LoadType;
+  CText LoadName;
   double TargetPar = 0;
-  std::string StatCorrect;
+  CText StatCorrect;
 };
 
 struct S2kCaseModalHistoryDampingRow {
-  std::string Case;
+  CText Case;
   double Period = 0;
   double Frequency = 0;
   double Damping = 0;
 };
 
 struct S2kCaseSpectrumModalDampingRow {
-  std::string Case;
+  CText Case;
   double Period = 0;
   double Frequency = 0;
   double Damping = 0;
 };
 
 struct S2kCaseSpectrumProportionalDampingRow {
-  std::string Case;
-  std::string SpecifyType;
+  CText Case;
+  CText SpecifyType;
   double MassCoeff = 0;
   double StiffCoeff = 0;
   double Period1 = 0;
@@ -74,35 +75,35 @@ struct S2kCaseSpectrumProportionalDampingRow {
 };
 
 struct S2kCaseSpectrumModeDampingRow {
-  std::string Case;
-  std::string Mode;
+  CText Case;
+  CText Mode;
   double Damping = 0;
 };
 
 struct S2kConstraintLocalRow {
-  std::string Name;
-  std::string U1;
-  std::string U2;
-  std::string U3;
-  std::string R1;
-  std::string R2;
-  std::string R3;
+  CText Name;
+  CText U1;
+  CText U2;
+  CText U3;
+  CText R1;
+  CText R2;
+  CText R3;
 };
 
 struct S2kPlotFunctionRow {
-  std::string PlotFunc;
-  std::string Type;
-  std::string ObjectLabel;
-  std::string DistType;
+  CText PlotFunc;
+  CText Type;
+  CText ObjectLabel;
+  CText DistType;
   double RelDist = 0;
   double AbsDist = 0;
-  std::string Joint;
-  std::string Component;
-  std::string Mode;
+  CText Joint;
+  CText Component;
+  CText Mode;
 };
 
 struct S2kFunctionCosineRow {
-  std::string Name;
+  CText Name;
   double Time = 0;
   double Value = 0;
   double Period = 0;
@@ -112,7 +113,7 @@ struct S2kFunctionCosineRow {
 };
 
 struct S2kFunctionRampRow {
-  std::string Name;
+  CText Name;
   double Time = 0;
   double Value = 0;
   double RampTime = 0;
@@ -121,7 +122,7 @@ struct S2kFunctionRampRow {
 };
 
 struct S2kFunctionSawtoothRow {
-  std::string Name;
+  CText Name;
   double Time = 0;
   double Value = 0;
   double Period = 0;
@@ -131,7 +132,7 @@ struct S2kFunctionSawtoothRow {
 };
 
 struct S2kFunctionSineRow {
-  std::string Name;
+  CText Name;
   double Time = 0;
   double Value = 0;
   double Period = 0;
@@ -141,7 +142,7 @@ struct S2kFunctionSineRow {
 };
 
 struct S2kFunctionTriangularRow {
-  std::string Name;
+  CText Name;
   double Time = 0;
   double Value = 0;
   double Period = 0;
@@ -150,35 +151,35 @@ struct S2kFunctionTriangularRow {
 };
 
 struct S2kFunctionUserPeriodicRow {
-  std::string Name;
+  CText Name;
   double Time = 0;
   double Value = 0;
   double NumCycles = 0;
 };
 
 struct S2kGroupDefinitionRow {
-  std::string GroupName;
-  std::string Selection;
-  std::string SectionCut;
-  std::string Steel;
-  std::string Concrete;
-  std::string Aluminum;
-  std::string ColdFormed;
-  std::string Stage;
-  std::string Bridge;
-  std::string AutoSeismic;
-  std::string AutoWind;
-  std::string MassWeight;
+  CText GroupName;
+  CText Selection;
+  CText SectionCut;
+  CText Steel;
+  CText Concrete;
+  CText Aluminum;
+  CText ColdFormed;
+  CText Stage;
+  CText Bridge;
+  CText AutoSeismic;
+  CText AutoWind;
+  CText MassWeight;
 };
 
 struct S2kGroupAssignmentRow {
-  std::string GroupName;
-  std::string ObjectType;
-  std::string ObjectLabel;
+  CText GroupName;
+  CText ObjectType;
+  CText ObjectLabel;
 };
 
 struct S2kGroupMassRow {
-  std::string GroupName;
+  CText GroupName;
   double SelfMass = 0;
   double SelfWeight = 0;
   double TotalMassX = 0;
@@ -187,7 +188,7 @@ struct S2kGroupMassRow {
 };
 
 struct S2kJointMassSourceRow {
-  std::string Joint;
+  CText Joint;
   double UX = 0;
   double UY = 0;
   double UZ = 0;
@@ -197,37 +198,37 @@ struct S2kJointMassSourceRow {
 };
 
 struct S2kSolidAutoMeshRow {
-  std::string Solid;
-  std::string AutoMesh;
+  CText Solid;
+  CText AutoMesh;
   double Number1 = 0;
   double Number2 = 0;
   double Number3 = 0;
 };
 
 struct S2kSolidMaterialTemperatureRow {
-  std::string Solid;
+  CText Solid;
   double Temp = 0;
-  std::string JtPattern;
+  CText JtPattern;
 };
 
 struct S2kAreaSummaryRow {
-  std::string Area;
-  std::string Section;
-  std::string StiffMod;
-  std::string LocalAxes;
-  std::string Springs;
+  CText Area;
+  CText Section;
+  CText StiffMod;
+  CText LocalAxes;
+  CText Springs;
   double MassPerArea = 0;
-  std::string AutoMesh;
+  CText AutoMesh;
   double MatTemp = 0;
-  std::string GravLoads;
-  std::string UnifLoads;
-  std::string UnifLoadsFr;
-  std::string SPresLoads;
-  std::string PPresLoads;
-  std::string TempLoads;
+  CText GravLoads;
+  CText UnifLoads;
+  CText UnifLoadsFr;
+  CText SPresLoads;
+  CText PPresLoads;
+  CText TempLoads;
   double RefTemp = 0;
-  std::string RotateLoads;
-  std::string WindCoeffs;
+  CText RotateLoads;
+  CText WindCoeffs;
   double AreaArea = 0;
   double Perimeter = 0;
   double Volume = 0;

@@ -10,7 +10,7 @@
 namespace {
 
 struct Row {
-  std::string Case;
+  CText Case;
   int value = 0;
 };
 

@@ -181,7 +181,7 @@ TEST(Recognition, EveryTableHasOneParserOrOneWarningAtMost) {
 }
 
 struct TestRow {
-  std::string Name, Type;
+  CText Name, Type;
   double Value = 7;
   int Count = 0, On = 0;
 };
