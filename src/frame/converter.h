@@ -13,6 +13,7 @@
 
 #include "frame/steps.h"
 #include "frame/subject.h"
+#include "tvt/formats.h"
 #include "tvt/output_file.h"
 #include "quillmesh/quillmesh.hpp"
 #include "s2k/input_file.h"
@@ -87,6 +88,7 @@ class CS2kConverter {
  private:
   quillmesh::UserInterface& ui_;
   std::vector<std::unique_ptr<CSubject>> subjects_;
+  TvtFormats formats_;  ///< WriteText's, taken apart once
 
  public:
   S2kInputFile inputFile;

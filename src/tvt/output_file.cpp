@@ -7,15 +7,11 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-namespace {
-constexpr std::size_t kBufferSize = 1 << 16;
-}
-
 void TvtOutputFile::Fail(const char* what, int error) {
   std::string text = std::string(what) + " " + path_ + ": " + std::strerror(error);
   if (fd_ >= 0) ::close(fd_);
   fd_ = -1;
-  buffer_.clear();
+  used_ = 0;
   throw TvtFileError{text};
 }
 
@@ -27,25 +23,37 @@ void TvtOutputFile::Create(const std::string& path, std::FILE* input) {
     Fail("Cannot create", ETXTBSY);
   fd_ = ::open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
   if (fd_ < 0) Fail("Cannot create", errno);
-  buffer_.reserve(kBufferSize);
 }
 
 void TvtOutputFile::Write(std::string_view bytes) {
-  buffer_.append(bytes);
-  if (buffer_.size() >= kBufferSize) Flush();
+  char* at = Room(bytes.size());
+  if (!bytes.empty()) std::memcpy(at, bytes.data(), bytes.size());
+  Commit(at + bytes.size());
+}
+
+// A write longer than the room left: the buffer doubles, keeping the bytes
+// put after the committed ones.
+char* TvtOutputFile::Grow(std::size_t size) {
+  std::size_t capacity = capacity_ ? capacity_ : 2 * kBufferSize;
+  while (capacity < used_ + size) capacity *= 2;
+  std::unique_ptr<char[]> buffer(new char[capacity]);
+  if (capacity_) std::memcpy(buffer.get(), buffer_.get(), capacity_);
+  buffer_ = std::move(buffer);
+  capacity_ = capacity;
+  return buffer_.get() + used_;
 }
 
 void TvtOutputFile::Flush() {
   std::size_t done = 0;
-  while (done < buffer_.size()) {
-    ssize_t n = ::write(fd_, buffer_.data() + done, buffer_.size() - done);
+  while (done < used_) {
+    ssize_t n = ::write(fd_, buffer_.get() + done, used_ - done);
     if (n < 0) {
       if (errno == EINTR) continue;
       Fail("Cannot write", errno);
     }
     done += static_cast<std::size_t>(n);
   }
-  buffer_.clear();
+  used_ = 0;
 }
 
 void TvtOutputFile::Close() {

@@ -8,121 +8,63 @@
 #include "frame/converter.h"
 #include "frame/steps.h"
 #include "s2k/keys.h"
+#include "tvt/g_format.h"
 
 namespace {
 
-// Gathers a line in a small buffer and hands it to the file in one write.
-class LineBuffer {
- public:
-  explicit LineBuffer(TvtOutputFile& file) : file_(file) {}
-  void Put(std::string_view text) {
-    if (used_ + text.size() > sizeof buffer_) {
-      Flush();
-      if (text.size() > sizeof buffer_) {
-        file_.Write(text);
-        return;
-      }
-    }
-    std::memcpy(buffer_ + used_, text.data(), text.size());
-    used_ += text.size();
-  }
-  void PutPadded(std::string_view text, int width) {
-    static constexpr char kBlanks[] = "                                ";
-    for (int pad = width - static_cast<int>(text.size()); pad > 0; pad -= 32)
-      Put(std::string_view(kBlanks, static_cast<std::size_t>(pad < 32 ? pad : 32)));
-    Put(text);
-  }
-  void Flush() {
-    if (used_) file_.Write(std::string_view(buffer_, used_));
-    used_ = 0;
-  }
-
- private:
-  TvtOutputFile& file_;
-  char buffer_[512];
-  std::size_t used_ = 0;
-};
-
-// The formats the writers use, %d %g %s with a width and no flags, written
-// straight to the file; \returns false, having written nothing, for any
-// other format or a number printf spells out (inf, nan).
-bool WriteSimple(TvtOutputFile& file, const char* format, va_list args) {
-  constexpr int kMaxPieces = 40;
-  struct Piece {
-    char kind;  // 0 for plain text
-    int width;
-    const char* text;
-    std::size_t size;
+// A simple format's pieces put straight into the file's buffer; \returns
+// false, having kept nothing, for a number printf spells out (inf, nan).
+// Texts, blanks and numbers go in whole blocks: the room is there, and what
+// lies past the end is written over or dropped.
+bool WriteSimple(TvtOutputFile& file, const TvtFormats::Format& format, va_list args) {
+  constexpr std::size_t kBlock = TvtFormats::kBlock;
+  static constexpr char kBlanks[kBlock] = {' ', ' ', ' ', ' ', ' ', ' ', ' ', ' ',
+                                           ' ', ' ', ' ', ' ', ' ', ' ', ' ', ' '};
+  char* start = file.Room(format.room);
+  char* at = start;
+  auto pad = [&at](int blanks) {
+    if (blanks <= 0) return;
+    for (int done = 0; done < blanks; done += kBlock) std::memcpy(at + done, kBlanks, kBlock);
+    at += blanks;
   };
-  Piece pieces[kMaxPieces];
-  int count = 0;
-  for (const char* at = format; *at;) {
-    if (count == kMaxPieces) return false;
-    if (*at != '%') {
-      const char* end = at;
-      while (*end && *end != '%') ++end;
-      pieces[count++] = {0, 0, at, static_cast<std::size_t>(end - at)};
-      at = end;
-      continue;
-    }
-    ++at;
-    int width = 0;
-    while (*at >= '0' && *at <= '9') {
-      if (width == 0 && *at == '0') return false;  // a flag
-      width = width * 10 + (*at++ - '0');
-      if (width > 64) return false;
-    }
-    if (*at != 'd' && *at != 'g' && *at != 's') return false;
-    pieces[count++] = {*at++, width, nullptr, 0};
-  }
-  // Values are taken only now, once the whole format is known to be simple.
-  struct Value {
-    char digits[32];
-    std::size_t size;
-    const char* text;
-  };
-  Value values[kMaxPieces];
-  for (int i = 0; i < count; ++i) {
-    Value& value = values[i];
-    switch (pieces[i].kind) {
-      case 'd': {
-        auto result = std::to_chars(value.digits, value.digits + sizeof value.digits, va_arg(args, int));
-        value.size = static_cast<std::size_t>(result.ptr - value.digits);
-        value.text = value.digits;
+  for (const TvtFormats::Piece& piece : format.pieces) {
+    const char* text = format.text.data() + piece.textAt;
+    std::memcpy(at, text, kBlock);
+    if (piece.textSize > kBlock) std::memcpy(at + kBlock, text + kBlock, piece.textSize - kBlock);
+    at += piece.textSize;
+    char digits[kFormatGRoom];
+    char* end;
+    switch (piece.kind) {
+      case 'd':
+        end = std::to_chars(digits, digits + sizeof digits, va_arg(args, int)).ptr;
         break;
-      }
       case 'g': {
-        double number = va_arg(args, double);
+        const double number = va_arg(args, double);
         if (!std::isfinite(number)) return false;
-#if defined(__cpp_lib_to_chars)
-        auto result = std::to_chars(value.digits, value.digits + sizeof value.digits, number,
-                                    std::chars_format::general, 6);
-        value.size = static_cast<std::size_t>(result.ptr - value.digits);
-#else
-        // A standard library without to_chars for doubles: the same digits.
-        value.size = static_cast<std::size_t>(std::snprintf(value.digits, sizeof value.digits, "%g", number));
-#endif
-        value.text = value.digits;
+        end = FormatG(digits, number);  // at most 13 bytes
         break;
       }
       case 's': {
-        const char* text = va_arg(args, const char*);
-        value.text = text ? text : "(null)";
-        value.size = std::strlen(value.text);
-        break;
+        const char* value = va_arg(args, const char*);
+        if (!value) value = "(null)";
+        const std::size_t size = std::strlen(value);
+        const auto used = static_cast<std::size_t>(at - start);
+        start = file.Room(used + size + format.room);
+        at = start + used;
+        pad(piece.width - static_cast<int>(size));
+        std::memcpy(at, value, size);
+        at += size;
+        continue;
       }
-      default:
-        break;
+      default:  // the text at the end
+        continue;
     }
+    const auto size = static_cast<int>(end - digits);
+    pad(piece.width - size);
+    std::memcpy(at, digits, kBlock);
+    at += size;
   }
-  LineBuffer line(file);
-  for (int i = 0; i < count; ++i) {
-    if (pieces[i].kind == 0)
-      line.Put(std::string_view(pieces[i].text, pieces[i].size));
-    else
-      line.PutPadded(std::string_view(values[i].text, values[i].size), pieces[i].width);
-  }
-  line.Flush();
+  file.Commit(at);
   return true;
 }
 
@@ -133,7 +75,8 @@ int CS2kConverter::WriteText(const char* format, ...) {
   va_start(args, format);
   va_list simple;
   va_copy(simple, args);
-  bool done = WriteSimple(outputFile, format, simple);
+  const TvtFormats::Format& parsed = formats_.Find(format);
+  bool done = !parsed.pieces.empty() && WriteSimple(outputFile, parsed, simple);
   va_end(simple);
   if (done) {
     va_end(args);

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <cstring>
 #include <limits>
 
 #include "frame/converter.h"
@@ -40,6 +41,28 @@ TEST(WriteText, PrintsNumbersAndTextsAsPrintfDoes) {
       {"100%, 05, 3  |", [](CS2kConverter& e) { e.WriteText("100%%, %02d, %-3d|", 5, 3); }},
       {std::string(600, 'y') + "|", [](CS2kConverter& e) { e.WriteText("%s|", std::string(600, 'y').c_str()); }},
       {std::string(80, ' ') + "z", [](CS2kConverter& e) { e.WriteText("%81s", "z"); }},
+      // More than the file's buffer holds, in one line.
+      {std::string(300000, 'w') + "|    1",
+       [](CS2kConverter& e) { e.WriteText("%s|%5d", std::string(300000, 'w').c_str(), 1); }},
+      {"\t1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17, 18, 19, 20, 21, 22, 23, 24, 25, 26, 27, 28, 29, "
+       "30, 31, 32, 33, 34, 35, 36, 37, 38, 39, 40, 41, 42\n",
+       [](CS2kConverter& e) {
+         e.WriteText("\t%d, %d, %d, %d, %d, %d, %d, %d, %d, %d, %d, %d, %d, %d, %d, %d, %d, %d, %d, %d, %d, %d, %d, %d, "
+                     "%d, %d, %d, %d, %d, %d, %d, %d, %d, %d, %d, %d, %d, %d, %d, %d, %d, %d\n",
+                     1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17, 18, 19, 20, 21, 22, 23, 24, 25, 26,
+                     27, 28, 29, 30, 31, 32, 33, 34, 35, 36, 37, 38, 39, 40, 41, 42);
+       }},
+      // A format made at run time that changes at the same address.
+      {"7|  2.5|x",
+       [](CS2kConverter& e) {
+         char format[8] = "%d|";
+         e.WriteText(format, 7);
+         std::strcpy(format, "%5g|");
+         e.WriteText(format, 2.5);
+         std::strcpy(format, "%s");
+         e.WriteText(format, "x");
+       }},
+      {"3|  nan|    1", [](CS2kConverter& e) { e.WriteText("%d|%5g|%5d", 3, std::nan(""), 1); }},
   };
   for (const Case& c : cases) {
     TempFolder folder;
