@@ -79,20 +79,12 @@ char* PutPlain(char* at, std::uint32_t digits, int exponent) {
 
 }  // namespace
 
-char* FormatG(char* at, double value) {
-  const double magnitude = std::fabs(value);
-  if (magnitude < 1e6) {
-    const auto whole = static_cast<std::uint32_t>(magnitude);
-    std::uint32_t digits;
-    int exponent;
-    if (whole == magnitude) {
-      if (std::signbit(value)) *at++ = '-';
-      return std::to_chars(at, at + kFormatGRoom, whole).ptr;
-    }
-    if (SixDigits(magnitude, digits, exponent)) {
-      if (value < 0) *at++ = '-';
-      return PutPlain(at, digits, exponent);
-    }
+char* FormatGPart(char* at, double value) {
+  std::uint32_t digits;
+  int exponent;
+  if (SixDigits(std::fabs(value), digits, exponent)) {
+    if (value < 0) *at++ = '-';
+    return PutPlain(at, digits, exponent);
   }
 #if defined(__cpp_lib_to_chars)
   return std::to_chars(at, at + kFormatGRoom, value, std::chars_format::general, 6).ptr;

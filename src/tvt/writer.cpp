@@ -24,7 +24,8 @@ bool WriteSimple(TvtOutputFile& file, const TvtFormats::Format& format, va_list 
   char* at = start;
   auto pad = [&at](int blanks) {
     if (blanks <= 0) return;
-    for (int done = 0; done < blanks; done += kBlock) std::memcpy(at + done, kBlanks, kBlock);
+    std::memcpy(at, kBlanks, kBlock);
+    for (int done = kBlock; done < blanks; done += kBlock) std::memcpy(at + done, kBlanks, kBlock);
     at += blanks;
   };
   for (const TvtFormats::Piece& piece : format.pieces) {
