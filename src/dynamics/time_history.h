@@ -99,7 +99,7 @@ class CTimeHistory : public CSubject {
   CKeyedTable<TvtGroundAccRec> groundAcc_;   // *GROUND-ACC
   CKeyedTable<TvtDynSloadRec> dynSloads_;    // *DYN-SLOAD
   /// The *GROUND-ACC key of each case.
-  std::unordered_map<std::string, int> groundAccOf_;
+  std::unordered_map<CText, int, CTextHash, std::equal_to<>> groundAccOf_;
 
   int historyDampingRefused_ = 0;
   int historyDataRefused_ = 0;

@@ -36,9 +36,9 @@ class CElements : public CSubject {
   int WriteElements();
   /// The first row of table 239 for \p name, its angle adjusted for advanced
   /// axes. \returns 0 when there is none.
-  int FindFrameAngle(const std::string& name, S2kFrameLocalAxes1Row& row);
+  int FindFrameAngle(std::string_view name, S2kFrameLocalAxes1Row& row);
   /// Folds the advanced axes of \p name (table 240) into \p angle.
-  void AdjustAngleForAdvancedAxes(const std::string& name, double& angle);
+  void AdjustAngleForAdvancedAxes(std::string_view name, double& angle);
   /// The same rule for one row of advanced axes (links have their own table).
   void AdjustAngleForAxesRow(const S2kFrameLocalAxes2Row& row, double& angle);
   /// Whether element numbers are positions rather than names. Valid once
@@ -47,24 +47,24 @@ class CElements : public CSubject {
   /// The number of the element \p name of \p kind ("FRAME", "AREA", "SOLID")
   /// from the element map, first match in walk order. An empty map gives 1
   /// and leaves \p number. \returns 0, \p number left, when not found.
-  int FindElementNumber(const std::string& name, const std::string& kind, int& number);
+  int FindElementNumber(std::string_view name, std::string_view kind, int& number);
   /// The element number every writer prints: the map's under renumbering
   /// (0 when not found), else atoi of the name.
-  int ElementNumberOf(const std::string& name, const std::string& kind);
+  int ElementNumberOf(std::string_view name, std::string_view kind);
   /// Clears ElementNamesNumeric for a name with a character other than a digit.
-  void NoteElementName(const std::string& name);
+  void NoteElementName(std::string_view name);
   int DecideRenumbering();
   void WriteFrameLines(int frames);
   void WritePlateLines(int frames, int areas);
   void WriteSolidLines(int frames, int areas, int solids);
   /// The first row in walk order of a frame or area name, or nullptr.
-  const S2kConnectivityFrameRow* FindFrameConnectivity(const std::string& frame) const;
-  const S2kConnectivityAreaRow* FindAreaConnectivity(const std::string& area) const;
-  const S2kConnectivitySolidRow* FindSolidConnectivity(const std::string& solid) const {
+  const S2kConnectivityFrameRow* FindFrameConnectivity(std::string_view frame) const;
+  const S2kConnectivityAreaRow* FindAreaConnectivity(std::string_view area) const;
+  const S2kConnectivitySolidRow* FindSolidConnectivity(std::string_view solid) const {
     return solidConnectivityByName_.Find(source_.ConnectivitySolid, solid);
   }
   /// The first row of table 126 named \p section in walk order, or nullptr.
-  const S2kAreaSectionRow* FindAreaSectionRow(const std::string& section) const {
+  const S2kAreaSectionRow* FindAreaSectionRow(std::string_view section) const {
     return areaSectionRows_.Find(source_.AreaSection, section);
   }
   /// The row a whole walk of table 201 ends on, or nullptr for an empty table.
@@ -109,7 +109,7 @@ class CElements : public CSubject {
   int WriteFrameReleases();
   /// The key of the first offset record of frame \p name in walk order.
   /// \returns 0 when there is none.
-  int FindOffsetByElement(const std::string& name, int& key);
+  int FindOffsetByElement(std::string_view name, int& key);
 
  private:
   friend struct SubjectAccess;
@@ -135,5 +135,5 @@ class CElements : public CSubject {
   CNameIndex<S2kConnectivityAreaRow> areaConnectivityByName_{&S2kConnectivityAreaRow::Area};
   CNameIndex<S2kConnectivitySolidRow> solidConnectivityByName_{&S2kConnectivitySolidRow::Solid};
   /// Frame names of the offset records, kept while the offsets are converted.
-  std::unordered_map<std::string, int> offsetFrames_;
+  std::unordered_map<CText, int, CTextHash, std::equal_to<>> offsetFrames_;
 };

@@ -43,7 +43,7 @@ int CElements::ConvertFrames() {
   return ok;
 }
 
-int CElements::FindFrameAngle(const std::string& name, S2kFrameLocalAxes1Row& row) {
+int CElements::FindFrameAngle(std::string_view name, S2kFrameLocalAxes1Row& row) {
   const S2kFrameLocalAxes1Row* found = frameAngleNames_.Find(source_.FrameLocalAxes1, name);
   if (!found) return 0;
   row = *found;
@@ -52,7 +52,7 @@ int CElements::FindFrameAngle(const std::string& name, S2kFrameLocalAxes1Row& ro
 }
 
 // The advanced axes shrink to one rotation about the member's axis.
-void CElements::AdjustAngleForAdvancedAxes(const std::string& name, double& angle) {
+void CElements::AdjustAngleForAdvancedAxes(std::string_view name, double& angle) {
   const S2kFrameLocalAxes2Row* found = frameAdvancedAxesNames_.Find(source_.FrameLocalAxes2, name);
   if (found) AdjustAngleForAxesRow(*found, angle);
 }
@@ -81,14 +81,14 @@ void CElements::AdjustAngleForAxesRow(const S2kFrameLocalAxes2Row& row, double& 
   }
 }
 
-void CElements::NoteElementName(const std::string& name) {
+void CElements::NoteElementName(std::string_view name) {
   for (char ch : name)
     if (!IsDigit(ch)) ElementNamesNumeric = 0;
 }
 
 int CElements::IsRenumbered() const { return !ElementNamesNumeric || ElementsRenumbered; }
 
-int CElements::FindElementNumber(const std::string& name, const std::string& kind, int& number) {
+int CElements::FindElementNumber(std::string_view name, std::string_view kind, int& number) {
   if (elementNumberMap.Empty()) return 1;
   const TvtElementMapEntry* entry = elementNumberIndex_.Find(elementNumberMap, name, kind);
   if (!entry) return 0;
@@ -96,7 +96,7 @@ int CElements::FindElementNumber(const std::string& name, const std::string& kin
   return 1;
 }
 
-int CElements::ElementNumberOf(const std::string& name, const std::string& kind) {
+int CElements::ElementNumberOf(std::string_view name, std::string_view kind) {
   int number = 0;
   if (IsRenumbered())
     FindElementNumber(name, kind, number);
@@ -112,7 +112,7 @@ int CElements::DecideRenumbering() {
   int areas = source_.ConnectivityArea.Count();
   int solids = source_.ConnectivitySolid.Count();
   if (frames + areas < 1 || areas + solids < 1 || frames + solids < 1) return 0;
-  std::unordered_map<std::string, int> areaNames, solidNames;
+  std::unordered_map<CText, int, CTextHash, std::equal_to<>> areaNames, solidNames;
   source_.ConnectivityArea.Walk([&](int key, const S2kConnectivityAreaRow& row) { areaNames.emplace(row.Area, key); });
   source_.ConnectivitySolid.Walk(
       [&](int key, const S2kConnectivitySolidRow& row) { solidNames.emplace(row.Solid, key); });
@@ -238,10 +238,10 @@ void CElements::WriteSolidLines(int frames, int areas, int solids) {
   }
 }
 
-const S2kConnectivityFrameRow* CElements::FindFrameConnectivity(const std::string& frame) const {
+const S2kConnectivityFrameRow* CElements::FindFrameConnectivity(std::string_view frame) const {
   return frameConnectivityByName_.Find(source_.ConnectivityFrame, frame);
 }
 
-const S2kConnectivityAreaRow* CElements::FindAreaConnectivity(const std::string& area) const {
+const S2kConnectivityAreaRow* CElements::FindAreaConnectivity(std::string_view area) const {
   return areaConnectivityByName_.Find(source_.ConnectivityArea, area);
 }

@@ -10,7 +10,7 @@ CProperties::CProperties(CS2kConverter& engine) : CSubject(engine) {
   target_.Reset();
 }
 
-int CProperties::FindMaterialNumber(const std::string& name, int& number) const {
+int CProperties::FindMaterialNumber(std::string_view name, int& number) const {
   const CKeyedTable<S2kMaterial1Row>& table = source_.Material1;
   if (table.Empty()) return 0;
   if (const int key = materialNames_.FindKey(table, name)) {
@@ -107,6 +107,6 @@ int CProperties::WriteMaterials() {
   return 1;
 }
 
-int CProperties::FindElementMaterial(const std::string& name, int& number) const {
+int CProperties::FindElementMaterial(std::string_view name, int& number) const {
   return source_.Material1.Empty() || FindMaterialNumber(name, number);
 }

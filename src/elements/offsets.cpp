@@ -59,7 +59,7 @@ int CElements::ConvertFrameOffsets() {
   return ok;
 }
 
-int CElements::FindOffsetByElement(const std::string& name, int& key) {
+int CElements::FindOffsetByElement(std::string_view name, int& key) {
   auto it = offsetFrames_.find(name);
   if (it == offsetFrames_.end()) return 0;
   key = it->second;

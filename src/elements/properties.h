@@ -27,10 +27,10 @@ class CProperties : public CSubject {
   /// The number of material \p name, as a walk of table 381 finds it: the
   /// row's key when found; else the key of the walk's last row; \p number
   /// untouched when the table is empty. \returns 1 when found, else 0.
-  int FindMaterialNumber(const std::string& name, int& number) const;
+  int FindMaterialNumber(std::string_view name, int& number) const;
   /// Material lookup of areas and solids: an empty material table leaves the
   /// number and counts as found.
-  int FindElementMaterial(const std::string& name, int& number) const;
+  int FindElementMaterial(std::string_view name, int& number) const;
   /// Fills an orthotropic record from the first row of \p name in table 382.
   /// \returns 0 when there is none.
   int ConvertOrthotropicMaterial(const std::string& name, const std::string& type, double density, int key);
@@ -47,7 +47,7 @@ class CProperties : public CSubject {
   /// \p BLT is set to 2.
   static std::string MapSectionShape(const std::string& shape, int& BLT);
   /// The key of the first row of table 253 named \p name in walk order; 0 for none.
-  int FindFrameSectionKey(const std::string& name) const;
+  int FindFrameSectionKey(std::string_view name) const;
   /// The key of the first row of table 257 named \p name in walk order; 0 for none.
   int FindNonprismaticKey(const std::string& name) const;
   /// Sets \p offset from the insertion point of a frame of section \p name.

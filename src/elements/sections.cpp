@@ -89,7 +89,7 @@ int CProperties::FindFrameSectionName(const std::string& name, std::string& sect
   return 1;
 }
 
-int CProperties::FindFrameSectionKey(const std::string& name) const {
+int CProperties::FindFrameSectionKey(std::string_view name) const {
   return sectionNames_.FindKey(source_.FrameSections, name);
 }
 

@@ -47,14 +47,14 @@ class CGeometry : public CSubject {
   int WriteNodes();
   /// The node number of a joint name, as every writer takes it: under
   /// renumbering 0 for a name that is no joint's, else atoi of the name.
-  int NodeNumberOf(const std::string& name) const;
+  int NodeNumberOf(std::string_view name) const;
   /// The same, but under renumbering an unknown name leaves \p number as it was.
-  void ResolveNodeNumber(const std::string& name, int& number) const;
+  void ResolveNodeNumber(std::string_view name, int& number) const;
   /// 1 when every joint name is an integer that is its own node number.
   int JointsKeepNumbers() const { return target_.jointsKeepNumbers; }
   /// Global coordinates of joint \p name, first row in walk order.
   /// \returns 0, with zeros, when there is no such joint.
-  int FindJointGlobalCoordinates(const std::string& name, double& x, double& y, double& z) const;
+  int FindJointGlobalCoordinates(std::string_view name, double& x, double& y, double& z) const;
 
   // ---- restraints.cpp, constraints.cpp -------------------------------------------
   int ConvertRestraints();
@@ -83,12 +83,12 @@ class CGeometry : public CSubject {
   /// Adds a rotation record M = Rz Ry Rx for angles in degrees.
   void RotationFromAngles(const std::string& joint, double x, double y, double z);
   /// 1 when \p joint has a rotation record.
-  int HasJointLocalAxes(const std::string& joint) const;
+  int HasJointLocalAxes(std::string_view joint) const;
   /// Turns (a, b, c) from the joint's local axes to global axes, or back;
   /// results below 1e-5 in size become 0. A joint without local axes keeps
   /// the vector. \returns 1, or 0 when the joint has no record while others do.
-  int LocalToGlobal(const std::string& joint, double& a, double& b, double& c) const;
-  int GlobalToLocal(const std::string& joint, double& a, double& b, double& c) const;
+  int LocalToGlobal(std::string_view joint, double& a, double& b, double& c) const;
+  int GlobalToLocal(std::string_view joint, double& a, double& b, double& c) const;
   /// The advanced form of table 337 for \p rec, when the joint has a row.
   void ApplyAdvancedLocalAxes(TvtLocalAxisRec& rec);
 

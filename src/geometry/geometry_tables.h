@@ -176,10 +176,10 @@ struct TvtGeometryTables {
   /// Under renumbering: sets \p number to the node of the first joint of
   /// \p name in the walk of jointNumberMap and \returns 1. An unknown name
   /// \returns 0 and an empty map 1, both leaving \p number as it was.
-  int LookupNodeNumber(const std::string& name, int& number) const;
+  int LookupNodeNumber(std::string_view name, int& number) const;
 
   /// The rotation record of a joint: the first in walk order, or nullptr.
-  const TvtJointRotationRec* FindJointRotation(const std::string& joint) const;
+  const TvtJointRotationRec* FindJointRotation(std::string_view joint) const;
   /// Adds \p rec under the count plus 1, or, with \p replace, overwrites the
   /// joint's record when it has one. \returns the insert's result.
   int StoreJointRotation(const TvtJointRotationRec& rec, bool replace);
@@ -200,5 +200,5 @@ struct TvtGeometryTables {
   CNameIndex<TvtJointNumberRec> jointNumbersByName_{&TvtJointNumberRec::Joint};
   /// Kept as records go in: the rotations are added one by one between
   /// lookups, so a rebuilt index would cost a walk per joint.
-  std::unordered_map<std::string, int> rotationKeys_;
+  std::unordered_map<CText, int, CTextHash, std::equal_to<>> rotationKeys_;
 };

@@ -8,7 +8,7 @@ CGeometry::CGeometry(CS2kConverter& engine) : CSubject(engine) {
   target_.Reset();
 }
 
-int TvtGeometryTables::LookupNodeNumber(const std::string& name, int& number) const {
+int TvtGeometryTables::LookupNodeNumber(std::string_view name, int& number) const {
   if (jointNumberMap.Empty()) return 1;
   const TvtJointNumberRec* found = jointNumbersByName_.Find(jointNumberMap, name);
   if (!found) return 0;
@@ -16,7 +16,7 @@ int TvtGeometryTables::LookupNodeNumber(const std::string& name, int& number) co
   return 1;
 }
 
-int CGeometry::NodeNumberOf(const std::string& name) const {
+int CGeometry::NodeNumberOf(std::string_view name) const {
   int number = 0;
   if (target_.jointsKeepNumbers)
     number = ParseInt(name);
@@ -25,14 +25,14 @@ int CGeometry::NodeNumberOf(const std::string& name) const {
   return number;
 }
 
-void CGeometry::ResolveNodeNumber(const std::string& name, int& number) const {
+void CGeometry::ResolveNodeNumber(std::string_view name, int& number) const {
   if (target_.jointsKeepNumbers)
     number = ParseInt(name);
   else
     target_.LookupNodeNumber(name, number);
 }
 
-int CGeometry::FindJointGlobalCoordinates(const std::string& name, double& x, double& y, double& z) const {
+int CGeometry::FindJointGlobalCoordinates(std::string_view name, double& x, double& y, double& z) const {
   x = y = z = 0;
   const S2kJointCoordinatesRow* row = jointCoordinateNames_.Find(source_.JointCoordinates, name);
   if (!row) return 0;

@@ -38,7 +38,7 @@ Vector Direction(const std::string& word) {
 
 // Turns (a, b, c) by the joint's M or by its transpose; tiny results
 // become 0. Without any record nothing changes and the result is 1.
-int TurnVector(const TvtGeometryTables& target, const std::string& joint, bool transpose, double& a, double& b, double& c) {
+int TurnVector(const TvtGeometryTables& target, std::string_view joint, bool transpose, double& a, double& b, double& c) {
   if (target.JointRotations.Empty()) return 1;
   const TvtJointRotationRec* rec = target.FindJointRotation(joint);
   if (!rec) return 0;
@@ -56,7 +56,7 @@ int TurnVector(const TvtGeometryTables& target, const std::string& joint, bool t
 
 }  // namespace
 
-const TvtJointRotationRec* TvtGeometryTables::FindJointRotation(const std::string& joint) const {
+const TvtJointRotationRec* TvtGeometryTables::FindJointRotation(std::string_view joint) const {
   auto found = rotationKeys_.find(joint);
   return found == rotationKeys_.end() ? nullptr : JointRotations.Lookup(found->second);
 }
@@ -75,15 +75,15 @@ int TvtGeometryTables::StoreJointRotation(const TvtJointRotationRec& rec, bool r
   return JointRotations.SetAt(key, rec);
 }
 
-int CGeometry::HasJointLocalAxes(const std::string& joint) const {
+int CGeometry::HasJointLocalAxes(std::string_view joint) const {
   return target_.FindJointRotation(joint) != nullptr;
 }
 
-int CGeometry::LocalToGlobal(const std::string& joint, double& a, double& b, double& c) const {
+int CGeometry::LocalToGlobal(std::string_view joint, double& a, double& b, double& c) const {
   return TurnVector(target_, joint, false, a, b, c);
 }
 
-int CGeometry::GlobalToLocal(const std::string& joint, double& a, double& b, double& c) const {
+int CGeometry::GlobalToLocal(std::string_view joint, double& a, double& b, double& c) const {
   return TurnVector(target_, joint, true, a, b, c);
 }
 

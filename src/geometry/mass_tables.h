@@ -59,5 +59,5 @@ struct TvtMassTables {
 
  private:
   /// The key of each name in NodalMasses; rebuilt when it misses rows.
-  std::unordered_map<std::string, int> nodalMassKeys_;
+  std::unordered_map<CText, int, CTextHash, std::equal_to<>> nodalMassKeys_;
 };

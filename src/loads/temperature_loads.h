@@ -70,5 +70,5 @@ class CTemperatureLoads : public CSubject {
   std::unordered_map<std::string, double> patternValues_;
   int patternValuesCount_ = -1;
   /// Joint, a zero character and case, to the key of its nodal row.
-  std::unordered_map<std::string, int> nodeKeys_;
+  std::unordered_map<CText, int, CTextHash, std::equal_to<>> nodeKeys_;
 };

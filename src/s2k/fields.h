@@ -55,18 +55,12 @@ void ReadField(const S2kRowText& rowText, const S2kField<Row>& field, Row& row, 
       }
       return;
     }
-    case S2kFieldKind::Text: {
-      thread_local std::string value;
-      if (!ReadFirstText(rowText, field.Key, value)) return;
+    case S2kFieldKind::Text:
       // The last row's text again (a section, a material, a type) is shared.
-      if (previous && previous->*field.Text == value)
-        row.*field.Text = previous->*field.Text;
-      else
-        row.*field.Text = value;
+      ReadFirstText(rowText, field.Key, row.*field.Text, previous ? &(previous->*field.Text) : nullptr);
       return;
-    }
     case S2kFieldKind::Flag: {
-      std::string value;
+      CText value;
       if (ReadFirstText(rowText, field.Key, value)) row.*field.Integer = IsYes(value);
       return;
     }

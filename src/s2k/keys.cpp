@@ -231,6 +231,23 @@ double EvaluateExpression(const std::string& text) {
   return apply(piece[ops.back()], result, ParseDouble(std::string_view(piece).substr(ops.back() + 1)));
 }
 
-int IsYes(const std::string& value) { return value == "Yes" ? 1 : 0; }
+int IsYes(std::string_view value) { return value == "Yes" ? 1 : 0; }
 
 int IsDigit(char ch) { return (ch == '\0' || std::strchr("0123456789", ch) != nullptr) ? 1 : 0; }
+
+int ReadFirstText(const S2kRowText& row, std::string_view key, CText& item, const CText* same) {
+  std::string_view raw;
+  if (!FindRawValue(row, key, raw)) return 0;
+  std::string value;
+  std::string_view text = raw;
+  if (HasQuoteOrTab(raw) || raw.find(',') != std::string_view::npos) {
+    CleanValue(raw, value);
+    KeepFirstItem(value);
+    text = value;
+  }
+  if (same && *same == text)
+    item = *same;
+  else
+    item = text;
+  return 1;
+}

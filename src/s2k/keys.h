@@ -40,13 +40,15 @@ class S2kRowText {
 int ReadFirstText(const S2kRowText& row, std::string_view key, std::string& item);
 int ReadFirstNumber(const S2kRowText& row, std::string_view key, double& item);
 int ReadFirstText(const std::string& rowText, std::string_view key, std::string& item);
+/// The same into a record's text; a text equal to \p same is shared with it.
+int ReadFirstText(const S2kRowText& row, std::string_view key, CText& item, const CText* same = nullptr);
 int ReadFirstNumber(const std::string& rowText, std::string_view key, double& item);
 
 /// One comma-list item: + - * / strictly from left to right.
 double EvaluateExpression(const std::string& text);
 
 /// 1 for the exact text "Yes".
-int IsYes(const std::string& value);
+int IsYes(std::string_view value);
 /// 1 for the ten digits, and for the terminating zero character.
 int IsDigit(char ch);
 

@@ -43,7 +43,18 @@ double ParseDouble(std::string_view text) {
 
 // What this platform's atoi does, without leaning on its undefined overflow:
 // the 64-bit value cut to 32 bits, on every platform.
-int ParseInt(const std::string& text) { return static_cast<int>(std::strtoll(text.c_str(), nullptr, 10)); }
+int ParseInt(std::string_view text) {
+  // Plain digits, as most names are, need no strtoll.
+  if (!text.empty() && text.size() <= 18) {
+    long long value = 0;
+    for (char c : text) {
+      if (c < '0' || c > '9') return static_cast<int>(std::strtoll(std::string(text).c_str(), nullptr, 10));
+      value = value * 10 + (c - '0');
+    }
+    return static_cast<int>(value);
+  }
+  return static_cast<int>(std::strtoll(std::string(text).c_str(), nullptr, 10));
+}
 
 int TruncateToInt(double value) {
   if (!(value > -2147483649.0 && value < 2147483648.0)) return -2147483647 - 1;

@@ -9,7 +9,7 @@
 double ParseDouble(std::string_view text);
 
 /// atoi of the platform, overflow included.
-int ParseInt(const std::string& text);
+int ParseInt(std::string_view text);
 
 /// A double cut to a 32-bit integer as x86 does it: out of range and NaN
 /// give -2147483648.
