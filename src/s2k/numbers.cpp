@@ -4,6 +4,7 @@
 #include <cctype>
 #include <charconv>
 #include <cmath>
+#include <cstdint>
 #include <cstdlib>
 #include <string>
 
@@ -12,14 +13,28 @@ double ParseDouble(std::string_view text) {
   while (i < n && std::isspace(static_cast<unsigned char>(text[i]))) ++i;
   std::size_t start = i;
   if (i < n && (text[i] == '+' || text[i] == '-')) ++i;
-  std::size_t digits = 0;
-  while (i < n && std::isdigit(static_cast<unsigned char>(text[i]))) ++i, ++digits;
+  std::size_t digits = 0, fraction = 0;
+  std::uint64_t mantissa = 0;
+  auto digit = [&] {
+    if (digits < 19) mantissa = mantissa * 10 + static_cast<std::uint64_t>(text[i] - '0');
+    ++i, ++digits;
+  };
+  while (i < n && std::isdigit(static_cast<unsigned char>(text[i]))) digit();
   if (i < n && text[i] == '.') {
     ++i;
-    while (i < n && std::isdigit(static_cast<unsigned char>(text[i]))) ++i, ++digits;
+    while (i < n && std::isdigit(static_cast<unsigned char>(text[i]))) digit(), ++fraction;
   }
   if (digits == 0) return 0;
   std::size_t end = i;
+  // A short decimal without exponent is a whole number over a power of ten,
+  // both exact in a double, so one division rounds it as any reader would.
+  constexpr double kPowersOfTen[] = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,  1e8,  1e9,  1e10, 1e11,
+                                     1e12, 1e13, 1e14, 1e15, 1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
+  const bool exponent = i < n && (text[i] == 'e' || text[i] == 'E');
+  if (!exponent && digits < 19 && mantissa <= (std::uint64_t{1} << 53) && fraction <= 22) {
+    double value = static_cast<double>(mantissa) / kPowersOfTen[fraction];
+    return text[start] == '-' ? -value : value;
+  }
   if (i < n && (text[i] == 'e' || text[i] == 'E')) {
     std::size_t j = i + 1;
     if (j < n && (text[j] == '+' || text[j] == '-')) ++j;

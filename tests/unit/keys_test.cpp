@@ -2,7 +2,10 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <cstdlib>
 #include <limits>
+#include <random>
+#include <string>
 
 #include "s2k/keys.h"
 #include "s2k/numbers.h"
@@ -173,6 +176,26 @@ TEST(ParseDouble, ReadsTheLongestDecimalPrefixOnly) {
            Case{"0.1000000000000000055511151231257827", 0.1},  Case{"9007199254740993", 9007199254740992.0},
        }) {
     EXPECT_EQ(c.want, ParseDouble(c.in)) << c.in;
+  }
+}
+
+// Short decimals take a path of their own; strtod is the judge of every digit.
+TEST(ParseDouble, AgreesWithStrtodOnDecimalsOfEveryLength) {
+  std::mt19937_64 random(20261123);
+  Texts samples = {"-0", "0.0", "-0.000", "9007199254740992", "9007199254740993.5", "0.3", "2.675",
+                   "123456789012345678", "1234567890123456789", "0.0000000000000000000001",
+                   "0.00000000000000000000001", "00000000000000000000000001.5", "-.25", "+.125"};
+  for (int i = 0; i < 20000; ++i) {
+    std::string whole = std::to_string(random() >> (random() % 64));
+    std::string fraction = std::to_string(random() >> (random() % 64)).substr(0, random() % 24);
+    std::string text = (random() % 2 ? "-" : "") + whole.substr(0, random() % 20 + 1) + "." + fraction;
+    samples.push_back(text);
+  }
+  for (const std::string& text : samples) {
+    const double want = std::strtod(text.c_str(), nullptr);
+    const double got = ParseDouble(text);
+    EXPECT_EQ(std::signbit(want), std::signbit(got)) << text;
+    EXPECT_EQ(want, got) << text;
   }
 }
 
