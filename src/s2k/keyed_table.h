@@ -44,10 +44,13 @@ class CKeyedTable {
     chunk.keys[at % kPerChunk] = key;
     ++count_;
     walkValid_ = false;
-    // Keys that are row positions (1, 2, 3 ...) go to the dense index, as
-    // long as it stays within twice the entries; the rest to the hash.
-    if (key >= 0 && static_cast<std::size_t>(key) < 2 * static_cast<std::size_t>(count_) + kDenseSlack) {
-      if (static_cast<std::size_t>(key) >= dense_.size()) dense_.resize(static_cast<std::size_t>(key) + 1, kNone);
+    // Keys 1, 2, 3 ... in the order of the rows need no index. Other keys
+    // go to the dense index, as long as it stays within twice the entries;
+    // the rest to the hash.
+    if (prefix_ == at && static_cast<std::int64_t>(key) == static_cast<std::int64_t>(at) + 1) {
+      ++prefix_;
+    } else if (key >= 0 && static_cast<std::size_t>(key) < DenseLimit()) {
+      if (static_cast<std::size_t>(key) >= dense_.size()) GrowDense(static_cast<std::size_t>(key));
       dense_[static_cast<std::size_t>(key)] = at;
     } else {
       sparse_.emplace(key, at);
@@ -116,8 +119,29 @@ class CKeyedTable {
     return std::launder(reinterpret_cast<Rec*>(chunks_[at / kPerChunk]->recs + at % kPerChunk * sizeof(Rec)));
   }
 
+  std::size_t DenseLimit() const { return 2 * static_cast<std::size_t>(count_) + kDenseSlack; }
+
+  // Doubles the dense index at least, within its limit. Whenever its room
+  // grows, the keys of the hash that fit move into it: a table filled in
+  // walk order meets its high keys first.
+  void GrowDense(std::size_t key) {
+    const std::size_t room = dense_.capacity();
+    dense_.resize(std::min(std::max(key + 1, 2 * dense_.size()), DenseLimit()), kNone);
+    if (dense_.capacity() == room) return;
+    for (auto it = sparse_.begin(); it != sparse_.end();) {
+      if (it->first >= 0 && static_cast<std::size_t>(it->first) < dense_.size()) {
+        dense_[static_cast<std::size_t>(it->first)] = it->second;
+        it = sparse_.erase(it);
+      } else {
+        ++it;
+      }
+    }
+    if (sparse_.empty()) std::unordered_map<int, std::uint32_t>().swap(sparse_);
+  }
+
   // The place of \p key, or kNone.
   std::uint32_t Find(int key) const {
+    if (key > 0 && static_cast<std::uint32_t>(key) <= prefix_) return static_cast<std::uint32_t>(key) - 1;
     if (key >= 0 && static_cast<std::size_t>(key) < dense_.size() && dense_[static_cast<std::size_t>(key)] != kNone)
       return dense_[static_cast<std::size_t>(key)];
     if (sparse_.empty()) return kNone;
@@ -143,6 +167,7 @@ class CKeyedTable {
 
   int size_ = 17;
   std::uint32_t count_ = 0;
+  std::uint32_t prefix_ = 0;  // entries 0 to prefix_ - 1 hold keys 1 to prefix_
   std::vector<std::unique_ptr<Chunk>> chunks_;
   std::vector<std::uint32_t> dense_;
   std::unordered_map<int, std::uint32_t> sparse_;

@@ -1,6 +1,7 @@
 // Keyed tables, title recognition and the shared row parser.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <map>
 #include <string>
 
@@ -81,6 +82,27 @@ TEST(KeyedTable, FindsKeysFarApartNegativeOrHuge) {
   // 0x07FFFFFF % 17 = 7, 0x08000000 % 17 = 8, 0x0FFFFFFF % 17 = 15 for -5.
   // The newest of a bucket comes first.
   EXPECT_EQ((std::vector<int>{4, 0, 3000, 2, 1, 70, 2147483647, -2147483647 - 1, 1000000, -5}), table.WalkKeys());
+}
+
+// Keys in the order of the rows, then out of it: each found, none made up.
+TEST(KeyedTable, FindsKeysInAnyOrder) {
+  const std::vector<int> orders[] = {
+      {1, 2, 3, 4, 5}, {1, 2, 3, 0, 4, 5}, {1, 2, 4, 3}, {2, 1, 3}, {1, 2, 3, -1, 100000, 4, 6}, {0, 1, 2},
+      Range(3000, 1), WalkOf(17, 3000), Concat({Range(-1, -500), Range(1, 800), Range(100000, 99000)}),
+  };
+  for (const std::vector<int>& keys : orders) {
+    CKeyedTable<int> table;
+    for (int key : keys) table.SetAt(key, key * 10);
+    for (int key : keys) table.SetAt(key, *table.Lookup(key) + 1);  // overwritten in place
+    EXPECT_EQ(static_cast<int>(keys.size()), table.Count());
+    for (int key : keys) {
+      const int* got = table.Lookup(key);
+      ASSERT_NE(nullptr, got) << key;
+      EXPECT_EQ(key * 10 + 1, *got) << key;
+    }
+    for (int other : {-501, -2, 0, 5, 6, 7, 801, 3001, 98999, 99999, 100001})
+      if (std::find(keys.begin(), keys.end(), other) == keys.end()) EXPECT_EQ(nullptr, table.Lookup(other)) << other;
+  }
 }
 
 // Counts the records alive, to see each one made once and destroyed once.
