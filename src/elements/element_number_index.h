@@ -1,5 +1,5 @@
 // The element map looked up by name and kind: what a walk to the first entry
-// with both finds, through open addressing over the map's own entries.
+// with both finds, through open addressing over the map's keys.
 #pragma once
 
 #include <bit>
@@ -18,30 +18,33 @@ class CElementNumberIndex {
   const TvtElementMapEntry* Find(const CKeyedTable<TvtElementMapEntry>& map, std::string_view name,
                                  std::string_view kind) {
     if (count_ != map.Count()) Build(map);
-    return slots_[Probe(name, kind)];
+    return map.Lookup(keys_[Probe(map, name, kind)]);
   }
 
  private:
-  // The map's entries never move, so the slots point at them; at most half
-  // the slots are taken, and a probe ends on the entry or an empty slot.
+  // At most half the slots are taken, and a probe ends on the entry or an
+  // empty slot; an empty slot holds a key the map has not.
   void Build(const CKeyedTable<TvtElementMapEntry>& map) {
     count_ = map.Count();
-    slots_.assign(std::bit_ceil(2 * static_cast<std::size_t>(count_) + 2), nullptr);
-    mask_ = slots_.size() - 1;
-    map.Walk([&](int, const TvtElementMapEntry& entry) {
-      const TvtElementMapEntry*& slot = slots_[Probe(entry.name, entry.kind)];
-      if (!slot) slot = &entry;  // the first in walk order stays
+    absent_ = 0;
+    while (map.Lookup(absent_)) --absent_;
+    keys_.assign(std::bit_ceil(2 * static_cast<std::size_t>(count_) + 2), absent_);
+    mask_ = keys_.size() - 1;
+    map.Walk([&](int key, const TvtElementMapEntry& entry) {
+      int& slot = keys_[Probe(map, entry.name, entry.kind)];
+      if (slot == absent_) slot = key;  // the first in walk order stays
     });
   }
 
-  std::size_t Probe(std::string_view name, std::string_view kind) const {
+  std::size_t Probe(const CKeyedTable<TvtElementMapEntry>& map, std::string_view name, std::string_view kind) const {
     std::size_t at = std::hash<std::string_view>{}(name) & mask_;
-    for (const TvtElementMapEntry* entry; (entry = slots_[at]) && !(entry->name == name && entry->kind == kind);)
+    for (const TvtElementMapEntry* entry; (entry = map.Lookup(keys_[at])) && !(entry->name == name && entry->kind == kind);)
       at = (at + 1) & mask_;
     return at;
   }
 
-  std::vector<const TvtElementMapEntry*> slots_;
+  std::vector<int> keys_;
   std::size_t mask_ = 0;
+  int absent_ = 0;
   int count_ = -1;
 };
