@@ -1,6 +1,7 @@
 // Key readers on which every row parser rests.
 #include "s2k/keys.h"
 
+#include <bit>
 #include <cctype>
 #include <cstring>
 
@@ -17,55 +18,45 @@ void TrimRight(std::string& text) {
   text.resize(end);
 }
 
-// The value text of a key, as it stands in the row: behind the key, cut at
-// the last blank before the next '=', its end trimmed. Quotes and tabs are
-// still in it.
-bool FindRawValue(const S2kRowText& row, std::string_view key, std::string_view& rest) {
-  std::size_t at = row.Find(key);
-  if (at == std::string_view::npos) return false;
-  rest = row.Text().substr(at + key.size());
-  std::size_t eq = rest.find('=');
-  if (eq != std::string_view::npos && eq >= 1) {
-    std::size_t blank = rest.substr(1, eq).rfind(' ');
-    if (blank != std::string_view::npos) rest = rest.substr(0, blank + 2);
-  }
-  while (!rest.empty() && IsSpace(rest.back())) rest.remove_suffix(1);
-  return true;
+// The first comma, quote or tab of a value text; its size when there is none.
+std::size_t FirstSpecial(std::string_view raw) {
+  std::size_t at = 0;
+  while (at < raw.size() && raw[at] != ',' && raw[at] != '"' && raw[at] != '\t') ++at;
+  return at;
 }
 
-bool HasQuoteOrTab(std::string_view text) {
-  for (char c : text)
-    if (c == '"' || c == '\t') return true;
-  return false;
-}
-
-// The value text with its quotes gone and its tabs made blanks.
-void CleanValue(std::string_view raw, std::string& value) {
-  if (!HasQuoteOrTab(raw)) {
-    value.assign(raw);
-    return;
-  }
-  value.clear();
-  for (char c : raw) {
+// The value text with its quotes gone and its tabs made blanks; \p special
+// is where the first comma, quote or tab stands.
+void CleanValue(std::string_view raw, std::string& value, std::size_t special) {
+  value.assign(raw.data(), special);
+  for (char c : raw.substr(special)) {
     if (c == '"') continue;
     value.push_back(c == '\t' ? ' ' : c);
   }
 }
 
-bool FindValue(const S2kRowText& row, std::string_view key, std::string& value) {
+bool FindCleanValue(const S2kRowText& row, std::string_view key, std::string& value) {
   std::string_view raw;
-  if (!FindRawValue(row, key, raw)) return false;
-  CleanValue(raw, value);
+  if (!row.FindValue(key, raw)) return false;
+  CleanValue(raw, value, FirstSpecial(raw));
   return true;
 }
 
-// Item 0 of a comma list: the text before the first comma, without blanks.
-void KeepFirstItem(std::string& value) {
-  std::size_t comma = value.find(',');
-  if (comma == std::string::npos) return;
-  value.resize(comma);
-  std::erase(value, ' ');
+// Item 0 of the value's list: the clean value, or for a comma list the text
+// before the first comma without quotes, tabs and blanks.
+void FirstItem(std::string_view raw, std::string& item) {
+  const std::size_t special = FirstSpecial(raw);
+  const std::size_t comma = raw.find(',', special);
+  if (comma == std::string_view::npos) {
+    CleanValue(raw, item, special);
+    return;
+  }
+  item.clear();
+  for (char c : raw.substr(0, comma))
+    if (c != '"' && c != '\t' && c != ' ') item.push_back(c);
 }
+
+constexpr bool kLittleEndian = std::endian::native == std::endian::little;
 
 // Comma lists lose every blank and split at each comma, keeping empty pieces.
 template <class Fn>
@@ -132,9 +123,9 @@ int ReadFirstNumber(const std::string& rowText, std::string_view key, double& it
   return ReadFirstNumber(S2kRowText(rowText), key, item);
 }
 
-int ReadStringList(const std::string& rowText, std::string_view key, std::vector<std::string>& list) {
+int ReadStringList(std::string_view rowText, std::string_view key, std::vector<std::string>& list) {
   std::string value;
-  if (!FindValue(S2kRowText(rowText), key, value)) return 0;
+  if (!FindCleanValue(S2kRowText(rowText), key, value)) return 0;
   if (value.find(',') == std::string::npos)
     list.push_back(std::move(value));
   else
@@ -142,9 +133,9 @@ int ReadStringList(const std::string& rowText, std::string_view key, std::vector
   return 1;
 }
 
-int ReadNumberList(const std::string& rowText, std::string_view key, std::vector<double>& list) {
+int ReadNumberList(std::string_view rowText, std::string_view key, std::vector<double>& list) {
   std::string value;
-  if (!FindValue(S2kRowText(rowText), key, value)) return 0;
+  if (!FindCleanValue(S2kRowText(rowText), key, value)) return 0;
   if (value.find(',') == std::string::npos)
     list.push_back(ParseDouble(value));
   else
@@ -152,54 +143,109 @@ int ReadNumberList(const std::string& rowText, std::string_view key, std::vector
   return 1;
 }
 
+// The '=' are found eight characters at a time.
 S2kRowText::S2kRowText(std::string_view text) : text_(text) {
-  for (std::size_t at = 0; at < text.size(); ++at) {
-    const void* eq = std::memchr(text.data() + at, '=', text.size() - at);
-    if (!eq) break;
+  const char* data = text.data();
+  const std::size_t size = text.size();
+  if (size > 0xffffffffu) {
+    overflow_ = true;
+    return;
+  }
+  auto note = [&](std::size_t at) {
     if (count_ == kMaxEquals) {
       overflow_ = true;
-      break;
+      return false;
     }
-    at = static_cast<std::size_t>(static_cast<const char*>(eq) - text.data());
     equals_[count_++] = static_cast<std::uint32_t>(at);
+    return true;
+  };
+  constexpr std::uint64_t kOnes = 0x0101010101010101u, kLow7 = 0x7f7f7f7f7f7f7f7fu;
+  std::size_t at = 0;
+  for (; at + 8 <= size; at += 8) {
+    std::uint64_t word;
+    std::memcpy(&word, data + at, 8);
+    word ^= kOnes * '=';
+    // The high bit of each character that was '=', and of no other.
+    std::uint64_t found = ~(((word & kLow7) + kLow7) | word | kLow7);
+    while (found) {
+      const int bit = kLittleEndian ? std::countr_zero(found) : std::countl_zero(found);
+      if (!note(at + static_cast<std::size_t>(bit) / 8)) return;
+      found &= kLittleEndian ? found - 1 : ~(std::uint64_t{1} << (63 - bit));
+    }
   }
+  for (; at < size; ++at)
+    if (data[at] == '=' && !note(at)) return;
 }
+
+bool S2kRowText::Indexed(std::string_view key) const { return !overflow_ && !key.empty() && key.back() == '='; }
 
 // Every occurrence of a key ends at one of the row's '=', so the first '='
 // with the key's other characters before it marks the first occurrence.
-std::size_t S2kRowText::Find(std::string_view key) const {
-  if (overflow_ || key.empty() || key.back() != '=' || text_.size() > 0xffffffffu) return text_.find(key);
+std::size_t S2kRowText::FindEqual(std::string_view key) const {
   const std::size_t head = key.size() - 1;
-  const char last = head ? key[head - 1] : '\0';
+  if (head == 0) return count_ ? 0 : kNone;
+  const char last = key[head - 1];
   for (std::size_t i = 0; i < count_; ++i) {
-    std::size_t eq = equals_[i];
-    if (eq < head || (head && text_[eq - 1] != last)) continue;
-    if (std::memcmp(text_.data() + eq - head, key.data(), head) == 0) return eq - head;
+    const std::size_t eq = equals_[i];
+    if (eq < head || text_[eq - 1] != last) continue;
+    const char* at = text_.data() + eq - head;
+    std::size_t same = 0;
+    while (same < head - 1 && at[same] == key[same]) ++same;
+    if (same == head - 1) return i;
   }
-  return std::string_view::npos;
+  return kNone;
+}
+
+std::size_t S2kRowText::Find(std::string_view key) const {
+  if (!Indexed(key)) return text_.find(key);
+  const std::size_t i = FindEqual(key);
+  return i == kNone ? std::string_view::npos : equals_[i] - (key.size() - 1);
+}
+
+bool S2kRowText::FindValue(std::string_view key, std::string_view& value) const {
+  std::size_t begin, next;  // where the value starts, where the next '=' stands
+  if (Indexed(key)) {
+    const std::size_t i = FindEqual(key);
+    if (i == kNone) return false;
+    begin = equals_[i] + 1;
+    next = i + 1 < count_ ? equals_[i + 1] : std::string_view::npos;
+  } else {
+    const std::size_t at = text_.find(key);
+    if (at == std::string_view::npos) return false;
+    begin = at + key.size();
+    next = text_.find('=', begin);
+  }
+  // The last blank before the next '=' ends the value; the value's first
+  // character never does.
+  std::size_t end = text_.size();
+  if (next != std::string_view::npos)
+    for (std::size_t p = next; p > begin + 1;)
+      if (text_[--p] == ' ') {
+        end = p;
+        break;
+      }
+  while (end > begin && IsSpace(text_[end - 1])) --end;
+  value = text_.substr(begin, end - begin);
+  return true;
 }
 
 int ReadFirstText(const S2kRowText& row, std::string_view key, std::string& item) {
-  if (!FindValue(row, key, item)) return 0;
-  KeepFirstItem(item);
+  std::string_view raw;
+  if (!row.FindValue(key, raw)) return 0;
+  FirstItem(raw, item);
   return 1;
 }
 
 int ReadFirstNumber(const S2kRowText& row, std::string_view key, double& item) {
   std::string_view raw;
-  if (!FindRawValue(row, key, raw)) return 0;
-  if (raw.find(',') == std::string_view::npos && !HasQuoteOrTab(raw)) {
+  if (!row.FindValue(key, raw)) return 0;
+  if (FirstSpecial(raw) == raw.size()) {
     item = ParseDouble(raw);
     return 1;
   }
   std::string value;
-  CleanValue(raw, value);
-  if (value.find(',') == std::string::npos) {
-    item = ParseDouble(value);
-  } else {
-    KeepFirstItem(value);
-    item = EvaluateExpression(value);
-  }
+  FirstItem(raw, value);
+  item = raw.find(',') == std::string_view::npos ? ParseDouble(value) : EvaluateExpression(value);
   return 1;
 }
 
@@ -237,12 +283,11 @@ int IsDigit(char ch) { return (ch == '\0' || std::strchr("0123456789", ch) != nu
 
 int ReadFirstText(const S2kRowText& row, std::string_view key, CText& item, const CText* same) {
   std::string_view raw;
-  if (!FindRawValue(row, key, raw)) return 0;
+  if (!row.FindValue(key, raw)) return 0;
   std::string value;
   std::string_view text = raw;
-  if (HasQuoteOrTab(raw) || raw.find(',') != std::string_view::npos) {
-    CleanValue(raw, value);
-    KeepFirstItem(value);
+  if (FirstSpecial(raw) != raw.size()) {
+    FirstItem(raw, value);
     text = value;
   }
   if (same && *same == text)

@@ -16,8 +16,8 @@ int TrimRowLine(std::string_view& line);
 
 /// Appends the values of the first occurrence of \p key (a plain substring,
 /// "=" included) to \p list. \returns 0, list untouched, when it is absent.
-int ReadStringList(const std::string& rowText, std::string_view key, std::vector<std::string>& list);
-int ReadNumberList(const std::string& rowText, std::string_view key, std::vector<double>& list);
+int ReadStringList(std::string_view rowText, std::string_view key, std::vector<std::string>& list);
+int ReadNumberList(std::string_view rowText, std::string_view key, std::vector<double>& list);
 
 /// A row read for many keys: the places of its '=' are found once.
 class S2kRowText {
@@ -26,9 +26,18 @@ class S2kRowText {
   std::string_view Text() const { return text_; }
   /// Where \p key first stands in the row, as a plain substring search finds it.
   std::size_t Find(std::string_view key) const;
+  /// The value text of \p key as it stands in the row: behind the key, cut
+  /// at the last blank before the next '=', its end trimmed; quotes and tabs
+  /// still in it. \returns false when the key is absent.
+  bool FindValue(std::string_view key, std::string_view& value) const;
 
  private:
   static constexpr std::size_t kMaxEquals = 64;
+  static constexpr std::size_t kNone = ~std::size_t{0};
+  /// Which '=' ends the first occurrence of \p key, or kNone.
+  std::size_t FindEqual(std::string_view key) const;
+  bool Indexed(std::string_view key) const;
+
   std::string_view text_;
   std::uint32_t equals_[kMaxEquals];
   std::size_t count_ = 0;

@@ -70,6 +70,47 @@ TEST(ReadStringList, FindsKeysAsPlainSubstringsAndCutsAtTheNextKey) {
   }
 }
 
+// The index of a row's '=' finds what a plain search from the start finds.
+TEST(S2kRowText, FindsWhatAPlainSearchFinds) {
+  std::string full, many;  // as many '=' as the index holds, and more
+  for (int i = 0; i < 64; ++i) full += "K" + std::to_string(i) + "=" + std::to_string(i) + "   ";
+  many = full;
+  for (int i = 64; i < 70; ++i) many += "K" + std::to_string(i) + "=" + std::to_string(i) + "   ";
+  const std::string rows[] = {
+      "Joint=1   CoordSys=GLOBAL   CoordType=Cartesian   XorR=0",
+      "SectionType=Box   AnalSectionType=I   Type=T",  // long keys alike in their last characters
+      "XCoordType=1   CoordType=2",
+      "=1   A=2   ==3",
+      "A=1 B=2",
+      "Z=0AboutZ=0   X=1",
+      "noequals at all",
+      "",
+      full,
+      many,
+  };
+  const std::string keys[] = {"Joint=", "CoordType=", "oordType=", "SectionType=", "onType=", "Type=", "=",
+                              "A=",     "B=",         "Z=",        "AboutZ=",      "X=",      "K0=", "K63=",
+                              "K64=",   "K69=",       "K70=",      "Joint",        "",        "1   A", "= "};
+  for (const std::string& row : rows) {
+    const S2kRowText text(row);
+    for (const std::string& key : keys) {
+      EXPECT_EQ(std::string_view(row).find(key), text.Find(key)) << row << " / " << key;
+      std::string_view value;
+      EXPECT_EQ(text.Find(key) != std::string_view::npos, text.FindValue(key, value)) << row << " / " << key;
+    }
+  }
+  struct Case {
+    const std::string& row;
+    std::string key, want;
+  };
+  for (const Case& c : {Case{full, "K62=", "62"}, Case{full, "K63=", "63"}, Case{many, "K63=", "63"},
+                        Case{many, "K69=", "69"}, Case{rows[3], "=", "1"}, Case{rows[3], "A=", "2"}}) {
+    std::string_view value;
+    ASSERT_TRUE(S2kRowText(c.row).FindValue(c.key, value)) << c.key;
+    EXPECT_EQ(c.want, value) << c.key;
+  }
+}
+
 TEST(ReadNumberList, ReadsOneNumberOrEvaluatesEachItemOfAList) {
   struct Case {
     std::string row, key;
