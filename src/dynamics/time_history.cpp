@@ -123,9 +123,9 @@ constexpr S2kField<S2kHistoryUserRow> kUserKeys[] = {
 // A load row notes whether it gives its own scale.
 int ParseHistoryLoads(CS2kConverter& engine, CKeyedTable<S2kHistoryLoadRow>& table) {
   engine.parsedRowCount += static_cast<int>(engine.TableRows().size());
-  return ParseRows(engine.TableRows(), kHistoryLoadKeys, table, [](const std::string& text, S2kHistoryLoadRow& row) {
-    std::vector<double> scale;
-    row.LoadSFGiven = ReadNumberList(text, "LoadSF=", scale) && !scale.empty();
+  return ParseRows(engine.TableRows(), kHistoryLoadKeys, table, [](const S2kRowText& text, S2kHistoryLoadRow& row) {
+    // A key that is there gives one item at least.
+    row.LoadSFGiven = text.Find("LoadSF=") != std::string_view::npos;
     return true;
   });
 }

@@ -19,13 +19,14 @@
 #include "s2k/input_file.h"
 #include "s2k/fields.h"
 #include "s2k/keyed_table.h"
+#include "s2k/table_rows.h"
 
 /// A table as the reader leaves it, before its rows are parsed.
 struct S2kTableRead {
   int line;                               ///< the title's line in the file, from 1
   const std::string& title;               ///< the title line as read
   int tableId;                            ///< 0 when not recognised
-  const std::vector<std::string>& rows;   ///< the rows kept, one text each
+  const S2kTableRows& rows;               ///< the rows kept, one text each
   int unkeptRows;                         ///< the rows of a table not recognised
 };
 
@@ -66,7 +67,7 @@ class CS2kConverter {
   // ---- s2k/reader.cpp: lines to rows -----------------------------------------
   int ReadTables();
   /// The rows of the table being parsed, one text per row.
-  const std::vector<std::string>& TableRows() const { return rowRows; }
+  const S2kTableRows& TableRows() const { return rowRows; }
 
   // ---- s2k/recognition.cpp: titles to tables ---------------------------------
   int RecogniseTable(const std::string& titleLine) const;
@@ -94,8 +95,7 @@ class CS2kConverter {
   S2kInputFile inputFile;
   TvtOutputFile outputFile;
   std::vector<std::string> firstWords;
-  std::vector<std::string> rowRows;
-  std::vector<int> rowLines;
+  S2kTableRows rowRows;
   int parsedRowCount = 0;
   double ZeroTolerance = 1e-15;
 };

@@ -57,7 +57,7 @@ void SetFate(InspectedTable& table) {
   }
 }
 
-std::string FirstValue(const std::string& row, std::string_view key) {
+std::string FirstValue(std::string_view row, std::string_view key) {
   std::vector<std::string> values;
   ReadStringList(row, key, values);
   return values.empty() ? "" : values.front();

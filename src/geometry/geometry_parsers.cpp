@@ -78,9 +78,9 @@ constexpr S2kField<Advanced> kLocalAxesAdvancedKeys[] = {
 
 // A joint given in any system but Cartesian ends the read there, silently.
 int CGeometry::ParseJointCoordinates() {
-  auto cartesian = [](const std::string& rowText, S2kJointCoordinatesRow&) {
-    std::vector<std::string> type;
-    return !ReadStringList(rowText, "CoordType=", type) || type.empty() || type[0] == "Cartesian";
+  auto cartesian = [](const S2kRowText& rowText, S2kJointCoordinatesRow&) {
+    std::string type;
+    return !ReadFirstText(rowText, "CoordType=", type) || type == "Cartesian";
   };
   if (!::ParseRows(engine.rowRows, kJointCoordinatesKeys, source_.JointCoordinates, cartesian)) return 0;
   engine.parsedRowCount += static_cast<int>(engine.rowRows.size());

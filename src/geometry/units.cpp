@@ -20,10 +20,10 @@ constexpr S2kField<System> kCoordinateSystemKeys[] = {
 int CGeometry::ParseCoordinateSystem() {
   S2kCoordinateSystemRec system;
   if (!engine.rowRows.empty()) {
-    const std::string& rowText = engine.rowRows[0];
+    const S2kRowText rowText(engine.rowRows[0]);
     ReadField(rowText, TextKey("Name=", &System::Name), system);
     std::vector<std::string> type;
-    if (ReadStringList(rowText, "Type=", type) && !type.empty()) {
+    if (ReadStringList(rowText.Text(), "Type=", type) && !type.empty()) {
       if (type[0] != "Cartesian") {
         engine.ShowMessage("IDS_S2KV8_NODE_NOT_Cylindrical");
         return 0;

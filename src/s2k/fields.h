@@ -8,6 +8,7 @@
 #include "s2k/keyed_table.h"
 #include "s2k/keys.h"
 #include "s2k/numbers.h"
+#include "s2k/table_rows.h"
 #include "s2k/text.h"
 
 enum class S2kFieldKind { Text, Number, Integer, Flag };
@@ -74,23 +75,27 @@ void ReadField(const std::string& rowText, const S2kField<Row>& field, Row& row)
 
 /// Reads every key of \p fields, in their order, into \p row.
 template <class Row, std::size_t N>
-void ReadFields(const std::string& rowText, const S2kField<Row> (&fields)[N], Row& row,
-                const Row* previous = nullptr) {
-  const S2kRowText text(rowText);
+void ReadFields(const S2kRowText& text, const S2kField<Row> (&fields)[N], Row& row, const Row* previous = nullptr) {
   for (const S2kField<Row>& field : fields) ReadField(text, field, row, previous);
+}
+
+template <class Row, std::size_t N>
+void ReadFields(std::string_view rowText, const S2kField<Row> (&fields)[N], Row& row, const Row* previous = nullptr) {
+  ReadFields(S2kRowText(rowText), fields, row, previous);
 }
 
 /// The row parser of every plain table: row i (from 0) goes under key i + 1,
 /// starting from the row's defaults. \p special runs after the keys and may
 /// stop the parse by returning false. \returns 1, or 0 when stopped.
 template <class Row, std::size_t N, class Special>
-int ParseRows(const std::vector<std::string>& rows, const S2kField<Row> (&fields)[N],
-              CKeyedTable<Row>& table, Special&& special) {
+int ParseRows(const S2kTableRows& rows, const S2kField<Row> (&fields)[N], CKeyedTable<Row>& table,
+              Special&& special) {
   const Row* previous = nullptr;
   for (std::size_t i = 0; i < rows.size(); ++i) {
+    const S2kRowText text(rows[i]);
     Row row{};
-    ReadFields(rows[i], fields, row, previous);
-    if (!special(rows[i], row)) return 0;
+    ReadFields(text, fields, row, previous);
+    if (!special(text, row)) return 0;
     if (!table.SetAt(static_cast<int>(i + 1), std::move(row))) return 0;
     previous = table.Lookup(static_cast<int>(i + 1));
   }
@@ -98,6 +103,6 @@ int ParseRows(const std::vector<std::string>& rows, const S2kField<Row> (&fields
 }
 
 template <class Row, std::size_t N>
-int ParseRows(const std::vector<std::string>& rows, const S2kField<Row> (&fields)[N], CKeyedTable<Row>& table) {
-  return ParseRows(rows, fields, table, [](const std::string&, Row&) { return true; });
+int ParseRows(const S2kTableRows& rows, const S2kField<Row> (&fields)[N], CKeyedTable<Row>& table) {
+  return ParseRows(rows, fields, table, [](const S2kRowText&, Row&) { return true; });
 }

@@ -31,9 +31,32 @@ bool S2kInputFile::Fill() {
   return len_ > 0;
 }
 
-// The line is gathered in raw_ and handed over only when it isn't empty, so
-// that a read at the end leaves the caller's line as it was.
+// A line that lies whole in the buffer, newline and all, with no CR but one
+// before the newline, is copied once. Others are gathered in raw_ and handed
+// over only when they aren't empty, so that a read at the end leaves the
+// caller's line as it was.
 bool S2kInputFile::ReadLine(std::string& line) {
+  if (pos_ < len_) {
+    const char* text = buffer_.data() + pos_;
+    if (const void* found = std::memchr(text, '\n', std::min(len_ - pos_, kMaxRead))) {
+      const std::size_t newline = static_cast<std::size_t>(static_cast<const char*>(found) - text);
+      const std::size_t plain = newline > 0 && text[newline - 1] == '\r' ? newline - 1 : newline;
+      if (!std::memchr(text, '\r', plain)) {
+        pos_ += newline + 1;
+        if (atLineStart_) ++lineNumber_;
+        atLineStart_ = true;
+        if (const void* zero = std::memchr(text, '\0', plain)) {
+          line.assign(text, static_cast<std::size_t>(static_cast<const char*>(zero) - text));
+        } else if (plain == newline) {
+          line.assign(text, newline + 1);
+        } else {
+          line.assign(text, plain);
+          line.push_back('\n');
+        }
+        return true;
+      }
+    }
+  }
   raw_.clear();
   while (raw_.size() < kMaxRead) {
     if (pos_ == len_ && !Fill()) break;

@@ -22,7 +22,6 @@ bool IsOlderLayout(const std::string& titleLine) {
 // loops don't test for it: they see the last line again. That is how a file
 // without END ends (short lines, a foreign line) or goes on until stopped.
 int CS2kConverter::ReadTables() {
-  rowLines.clear();
   rowRows.clear();
   ui_.SetStage(1);
   std::string line, titleLine, rowText;
@@ -79,16 +78,19 @@ int CS2kConverter::ReadTables() {
           if (onTableRead && !TrimRowLine(piece)) ++unkeptRows;
           continue;
         }
-        int goesOn = TrimRowLine(piece);
-        rowText += piece;
-        if (goesOn) continue;
-        rowRows.emplace_back(rowText);
+        const int goesOn = TrimRowLine(piece);
+        if (goesOn || !rowText.empty()) {
+          // A row of several lines is gathered first.
+          rowText += piece;
+          if (goesOn) continue;
+          piece = rowText;
+        }
+        rowRows.push_back(piece);
         rowText.clear();
-        rowLines.push_back(lineCounter);
       }
       if (onTableRead) onTableRead({titleLineNumber, title, tableId, rowRows, unkeptRows});
       if (tableId >= 1 && !ParseTable(tableId)) return -1;
-      rowRows.clear();  // parsed: the texts are no longer needed
+      rowRows.clear();  // parsed: the texts and their memory go
       continue;
     }
     if (IsOlderLayout(titleLine) || lineCounter > 3) {

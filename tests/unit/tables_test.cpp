@@ -215,7 +215,7 @@ constexpr S2kField<TestRow> kTestKeys[] = {
 };
 
 TEST(ParseRows, KeysRowsByPositionWithDefaultsForMissingKeys) {
-  std::vector<std::string> rows = {
+  const S2kTableRows rows = {
       "Name=A   Type=X   Value=1.5   Count=2.9   On=Yes",
       "Type=Y",                                        // missing keys keep the defaults
       "Name=C   AreaType=Z   Name=D   Count=1e10",     // substring key, repeated key, out of range
@@ -240,7 +240,7 @@ TEST(ParseRows, KeysRowsByPositionWithDefaultsForMissingKeys) {
   EXPECT_EQ("", table.Lookup(4)->Name);
 
   // A second table of the same kind overwrites key by key.
-  ASSERT_EQ(1, ParseRows(std::vector<std::string>{"Name=E"}, kTestKeys, table));
+  ASSERT_EQ(1, ParseRows(S2kTableRows{"Name=E"}, kTestKeys, table));
   EXPECT_EQ("E", table.Lookup(1)->Name);
   EXPECT_EQ("Y", table.Lookup(2)->Type);
 }
