@@ -57,6 +57,23 @@ void FirstItem(std::string_view raw, std::string& item) {
 }
 
 constexpr bool kLittleEndian = std::endian::native == std::endian::little;
+constexpr std::uint64_t kOnes = 0x0101010101010101u, kLow7 = 0x7f7f7f7f7f7f7f7fu;
+
+// The high bit of each character of \p word that is the one repeated in
+// \p want, and of no other.
+std::uint64_t SameCharacters(std::uint64_t word, std::uint64_t want) {
+  word ^= want;
+  return ~(((word & kLow7) + kLow7) | word | kLow7);
+}
+
+// The place, from 0, of the first character marked in \p found.
+std::size_t FirstMarked(std::uint64_t found) {
+  return static_cast<std::size_t>(kLittleEndian ? std::countr_zero(found) : std::countl_zero(found)) / 8;
+}
+
+std::uint64_t WithoutFirstMarked(std::uint64_t found) {
+  return kLittleEndian ? found & (found - 1) : found & ~(std::uint64_t{1} << (63 - std::countl_zero(found)));
+}
 
 // Comma lists lose every blank and split at each comma, keeping empty pieces.
 template <class Fn>
@@ -156,25 +173,21 @@ S2kRowText::S2kRowText(std::string_view text) : text_(text) {
       overflow_ = true;
       return false;
     }
-    equals_[count_++] = static_cast<std::uint32_t>(at);
+    equals_[count_] = static_cast<std::uint32_t>(at);
+    lasts_[count_++] = at ? data[at - 1] : '\0';
     return true;
   };
-  constexpr std::uint64_t kOnes = 0x0101010101010101u, kLow7 = 0x7f7f7f7f7f7f7f7fu;
   std::size_t at = 0;
   for (; at + 8 <= size; at += 8) {
     std::uint64_t word;
     std::memcpy(&word, data + at, 8);
-    word ^= kOnes * '=';
-    // The high bit of each character that was '=', and of no other.
-    std::uint64_t found = ~(((word & kLow7) + kLow7) | word | kLow7);
-    while (found) {
-      const int bit = kLittleEndian ? std::countr_zero(found) : std::countl_zero(found);
-      if (!note(at + static_cast<std::size_t>(bit) / 8)) return;
-      found &= kLittleEndian ? found - 1 : ~(std::uint64_t{1} << (63 - bit));
-    }
+    for (std::uint64_t found = SameCharacters(word, kOnes * '='); found; found = WithoutFirstMarked(found))
+      if (!note(at + FirstMarked(found))) return;
   }
   for (; at < size; ++at)
     if (data[at] == '=' && !note(at)) return;
+  // The last characters are read eight at a time.
+  for (std::size_t i = count_; i % 8; ++i) lasts_[i] = '\0';
 }
 
 bool S2kRowText::Indexed(std::string_view key) const { return !overflow_ && !key.empty() && key.back() == '='; }
@@ -184,14 +197,20 @@ bool S2kRowText::Indexed(std::string_view key) const { return !overflow_ && !key
 std::size_t S2kRowText::FindEqual(std::string_view key) const {
   const std::size_t head = key.size() - 1;
   if (head == 0) return count_ ? 0 : kNone;
-  const char last = key[head - 1];
-  for (std::size_t i = 0; i < count_; ++i) {
-    const std::size_t eq = equals_[i];
-    if (eq < head || text_[eq - 1] != last) continue;
-    const char* at = text_.data() + eq - head;
-    std::size_t same = 0;
-    while (same < head - 1 && at[same] == key[same]) ++same;
-    if (same == head - 1) return i;
+  const std::uint64_t last = kOnes * static_cast<unsigned char>(key[head - 1]);
+  for (std::size_t base = 0; base < count_; base += 8) {
+    std::uint64_t word;
+    std::memcpy(&word, lasts_ + base, 8);
+    for (std::uint64_t found = SameCharacters(word, last); found; found = WithoutFirstMarked(found)) {
+      const std::size_t i = base + FirstMarked(found);
+      if (i >= count_) return kNone;
+      const std::size_t eq = equals_[i];
+      if (eq < head) continue;
+      const char* at = text_.data() + eq - head;
+      std::size_t same = 0;
+      while (same < head - 1 && at[same] == key[same]) ++same;
+      if (same == head - 1) return i;
+    }
   }
   return kNone;
 }
@@ -217,15 +236,16 @@ bool S2kRowText::FindValue(std::string_view key, std::string_view& value) const 
   }
   // The last blank before the next '=' ends the value; the value's first
   // character never does.
+  const char* data = text_.data();
   std::size_t end = text_.size();
   if (next != std::string_view::npos)
     for (std::size_t p = next; p > begin + 1;)
-      if (text_[--p] == ' ') {
+      if (data[--p] == ' ') {
         end = p;
         break;
       }
-  while (end > begin && IsSpace(text_[end - 1])) --end;
-  value = text_.substr(begin, end - begin);
+  while (end > begin && IsSpace(data[end - 1])) --end;
+  value = std::string_view(data + begin, end - begin);
   return true;
 }
 

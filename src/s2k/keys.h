@@ -40,6 +40,7 @@ class S2kRowText {
 
   std::string_view text_;
   std::uint32_t equals_[kMaxEquals];
+  char lasts_[kMaxEquals];  // the character before each '=', zeros behind the last
   std::size_t count_ = 0;
   bool overflow_ = false;  // more '=' than places: plain search
 };
