@@ -75,6 +75,29 @@ std::uint64_t WithoutFirstMarked(std::uint64_t found) {
   return kLittleEndian ? found & (found - 1) : found & ~(std::uint64_t{1} << (63 - std::countl_zero(found)));
 }
 
+template <class Word>
+Word Load(const char* text) {
+  Word word;
+  std::memcpy(&word, text, sizeof word);
+  return word;
+}
+
+// Whether the \p n characters at \p a and \p b are the same, compared a
+// word at a time; the last word may overlap the one before.
+bool SameText(const char* a, const char* b, std::size_t n) {
+  if (n >= 8) {
+    for (; n > 8; a += 8, b += 8, n -= 8)
+      if (Load<std::uint64_t>(a) != Load<std::uint64_t>(b)) return false;
+    return Load<std::uint64_t>(a + n - 8) == Load<std::uint64_t>(b + n - 8);
+  }
+  if (n >= 4)
+    return Load<std::uint32_t>(a) == Load<std::uint32_t>(b) &&
+           Load<std::uint32_t>(a + n - 4) == Load<std::uint32_t>(b + n - 4);
+  for (; n; --n)
+    if (*a++ != *b++) return false;
+  return true;
+}
+
 // Comma lists lose every blank and split at each comma, keeping empty pieces.
 template <class Fn>
 void SplitCommaList(std::string& value, Fn&& add) {
@@ -205,11 +228,7 @@ std::size_t S2kRowText::FindEqual(std::string_view key) const {
       const std::size_t i = base + FirstMarked(found);
       if (i >= count_) return kNone;
       const std::size_t eq = equals_[i];
-      if (eq < head) continue;
-      const char* at = text_.data() + eq - head;
-      std::size_t same = 0;
-      while (same < head - 1 && at[same] == key[same]) ++same;
-      if (same == head - 1) return i;
+      if (eq >= head && SameText(text_.data() + eq - head, key.data(), head - 1)) return i;
     }
   }
   return kNone;

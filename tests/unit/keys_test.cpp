@@ -83,6 +83,7 @@ TEST(S2kRowText, FindsWhatAPlainSearchFinds) {
       "=1   A=2   ==3",
       "A=1 B=2",
       "Z=0AboutZ=0   X=1",
+      "XbcdefghijType=1   AbcdefghijType=2   XbcdeT=3   AbcdeT=4   XbT=5   AbT=6",  // alike but for the first
       "noequals at all",
       "",
       full,
@@ -90,7 +91,8 @@ TEST(S2kRowText, FindsWhatAPlainSearchFinds) {
   };
   const std::string keys[] = {"Joint=", "CoordType=", "oordType=", "SectionType=", "onType=", "Type=", "=",
                               "A=",     "B=",         "Z=",        "AboutZ=",      "X=",      "K0=", "K63=",
-                              "K64=",   "K69=",       "K70=",      "Joint",        "",        "1   A", "= "};
+                              "K64=",   "K69=",       "K70=",      "Joint",        "",        "1   A", "= ",
+                              "AbcdefghijType=", "bcdefghijType=", "AbcdeT=", "AbT=", "bT="};
   for (const std::string& row : rows) {
     const S2kRowText text(row);
     for (const std::string& key : keys) {
