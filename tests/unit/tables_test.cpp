@@ -100,8 +100,11 @@ TEST(KeyedTable, FindsKeysInAnyOrder) {
       ASSERT_NE(nullptr, got) << key;
       EXPECT_EQ(key * 10 + 1, *got) << key;
     }
-    for (int other : {-501, -2, 0, 5, 6, 7, 801, 3001, 98999, 99999, 100001})
-      if (std::find(keys.begin(), keys.end(), other) == keys.end()) EXPECT_EQ(nullptr, table.Lookup(other)) << other;
+    for (int other : {-501, -2, 0, 5, 6, 7, 801, 3001, 98999, 99999, 100001}) {
+      if (std::find(keys.begin(), keys.end(), other) == keys.end()) {
+        EXPECT_EQ(nullptr, table.Lookup(other)) << other;
+      }
+    }
   }
 }
 
