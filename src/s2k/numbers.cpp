@@ -1,6 +1,7 @@
 // Number reading shared by every parser.
 #include "s2k/numbers.h"
 
+#include <algorithm>
 #include <cctype>
 #include <charconv>
 #include <cmath>
@@ -60,15 +61,12 @@ double ParseDouble(std::string_view text) {
 // the 64-bit value cut to 32 bits, on every platform.
 int ParseInt(std::string_view text) {
   // Plain digits, as most names are, need no strtoll.
-  if (!text.empty() && text.size() <= 18) {
-    long long value = 0;
-    for (char c : text) {
-      if (c < '0' || c > '9') return static_cast<int>(std::strtoll(std::string(text).c_str(), nullptr, 10));
-      value = value * 10 + (c - '0');
-    }
-    return static_cast<int>(value);
-  }
-  return static_cast<int>(std::strtoll(std::string(text).c_str(), nullptr, 10));
+  const bool plain = !text.empty() && text.size() <= 18 &&
+                     std::all_of(text.begin(), text.end(), [](char c) { return c >= '0' && c <= '9'; });
+  if (!plain) return static_cast<int>(std::strtoll(std::string(text).c_str(), nullptr, 10));
+  long long value = 0;
+  for (char c : text) value = value * 10 + (c - '0');
+  return static_cast<int>(value);
 }
 
 int TruncateToInt(double value) {
